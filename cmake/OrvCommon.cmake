@@ -24,6 +24,9 @@ if(WIN32)
   endif()
 endif()
 
+# The DLL, the programs that load it and the demos share one folder, as on a user's machine.
+set(ORV_RUNTIME_DIR ${CMAKE_BINARY_DIR}/bin)
+
 # orv_add_test(<target>): registers a test program with ctest.
 # Natively each GoogleTest case is its own ctest test; a Windows program runs whole,
 # through Wine (see cmake/wine-run.sh), with the prefix that tools/wine-session.sh prepares.
