@@ -1,0 +1,64 @@
+#pragma once
+// The host application's services as the kit uses them: the settings service (the theme) and
+// the help service. A service is created at each use and dropped after it; creation that fails
+// gives no service, and the caller goes on without (no theme, no help).
+//
+// Which host a process talks to: CurrentHostServices(), the platform's (COM on Windows, none
+// natively) unless a ScopedHostServices names another for its lifetime (tests, the demo).
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "dlgkit/ThemeColors.h"
+
+namespace orv {
+
+class SettingsService {
+ public:
+  virtual ~SettingsService() = default;
+  // Fills the record; result non-zero means the host has no theme (the record is then not
+  // trusted). A failed call raises XmlComError.
+  virtual void GetTheme(ThemeColors& theme, std::int32_t zero, std::int32_t& result) = 0;
+};
+
+class HelpService {
+ public:
+  virtual ~HelpService() = default;
+  // A failed call raises XmlComError.
+  virtual void ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags,
+                        std::int32_t& result) = 0;
+};
+
+class HostServices {
+ public:
+  virtual ~HostServices() = default;
+  // Null when the service cannot be created.
+  virtual std::unique_ptr<SettingsService> CreateSettingsService() = 0;
+  virtual std::unique_ptr<HelpService> CreateHelpService() = 0;
+};
+
+// The platform's host: COM activation on Windows (win32/), no services natively (native/).
+HostServices& PlatformHostServices();
+
+// The host a dialog talks to now.
+HostServices& CurrentHostServices();
+
+// Makes `services` the current host until destruction, then restores the previous one.
+// Nests; destroy in reverse order of construction.
+class ScopedHostServices {
+ public:
+  explicit ScopedHostServices(HostServices& services);
+  ~ScopedHostServices();
+  ScopedHostServices(const ScopedHostServices&) = delete;
+  ScopedHostServices& operator=(const ScopedHostServices&) = delete;
+
+ private:
+  HostServices* previous_;
+};
+
+// Help over the current host's help service: its result, -1 when there is no service.
+// Dialogs answer the help message with ShowHelp("CHARTX", <their dialog resource id>).
+std::int32_t ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags = 0);
+
+}  // namespace orv

@@ -1,0 +1,61 @@
+#pragma once
+// A strict stand-in for the host's services. A test states what each creation and call is to
+// do, in order; any call nobody expected (or with other arguments) throws UnexpectedHostCall
+// and is recorded, so the test fails where it happened.
+
+#include <deque>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "dlgkit/HostServices.h"
+#include "xml/XmlError.h"
+
+namespace orv {
+
+class UnexpectedHostCall : public std::logic_error {
+ public:
+  using std::logic_error::logic_error;
+};
+
+class FakeHostServices final : public HostServices {
+ public:
+  // Settings service creations, consumed in order.
+  void ExpectNoSettingsService();
+  void ExpectTheme(const ThemeColors& theme);      // GetTheme fills it, result 0
+  void ExpectNoTheme(std::int32_t result = 1);     // GetTheme answers this non-zero result
+  void ExpectThemeFailure(Status status);          // GetTheme fails with this status
+  // Help service creations, consumed in order.
+  void ExpectNoHelpService();
+  void ExpectHelp(std::string book, std::int32_t topicId, std::int32_t flags, std::int32_t result);
+
+  bool AllExpectationsMet() const { return settings_.empty() && help_.empty() && pendingCalls_ == 0; }
+  const std::vector<std::string>& UnexpectedCalls() const { return unexpected_; }
+
+  std::unique_ptr<SettingsService> CreateSettingsService() override;
+  std::unique_ptr<HelpService> CreateHelpService() override;
+
+  // Used by the services this fake hands out.
+  [[noreturn]] void Unexpected(const std::string& what);
+  void CallDone() { --pendingCalls_; }
+
+  struct SettingsExpectation {
+    enum Kind { NoService, Theme, NoTheme, Failure } kind;
+    ThemeColors theme;
+    std::int32_t result = 0;
+    Status status = kStatusOk;
+  };
+  struct HelpExpectation {
+    bool service = false;
+    std::string book;
+    std::int32_t topicId = 0, flags = 0, result = 0;
+  };
+
+ private:
+  std::deque<SettingsExpectation> settings_;
+  std::deque<HelpExpectation> help_;
+  std::vector<std::string> unexpected_;
+  int pendingCalls_ = 0;  // services created whose one expected call hasn't come yet
+};
+
+}  // namespace orv
