@@ -3,8 +3,9 @@
 #   - a 64-bit prefix, made on first use, with Wine's X11 driver unmanaged (no window manager
 #     needed, so closing a top-level window doesn't wait 2 seconds),
 #   - an X display: a private Xvfb on a free display, or the caller's $DISPLAY with --display,
-#   - a persistent wineserver started up front with its output redirected, so that programs
-#     run later (ctest's children) don't hand it their pipes and ctest doesn't wait on them.
+#   - a persistent wineserver and the desktop process started up front with their output
+#     redirected, so they hold none of the pipes of the programs run later (ctest's children)
+#     and ctest doesn't wait on them.
 # Afterwards the wineserver and the Xvfb are stopped whatever the outcome. Exit code: the command's.
 #
 #   tools/wine-session.sh [--display] [--prefix DIR] [--] command [args...]
@@ -101,6 +102,10 @@ if ! grep -A3 -F '[Software\\Wine\\X11 Driver]' "$WINEPREFIX/user.reg" 2>/dev/nu
      | grep -qx "\"Managed\"=\"$managed\""; then
   wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d $managed /f </dev/null >/dev/null 2>&1
 fi
+
+# The desktop process (explorer) starts with the first program that needs a window and keeps
+# that program's output pipes: started here, detached, ctest never waits on it.
+wine rundll32.exe user32.dll,GetDesktopWindow </dev/null >/dev/null 2>&1 || true
 
 set +e
 "$@"
