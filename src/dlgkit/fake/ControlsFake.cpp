@@ -1,0 +1,499 @@
+#include "dlgkit/fake/ControlsFake.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "dlgkit/Page.h"
+
+namespace orv {
+
+namespace {
+constexpr int kDtnDateTimeChange = -759;
+
+bool ValidIndex(int index, std::size_t size) { return index >= 0 && static_cast<std::size_t>(index) < size; }
+
+std::string Describe(int id) { return "control " + std::to_string(id); }
+}  // namespace
+
+int FirstMessageBoxButton(unsigned flags) {
+  switch (flags & 0xF) {
+    case 1: return 1;   // OK
+    case 2: return 3;   // Abort
+    case 3: case 4: return 6;  // Yes
+    case 5: return 4;   // Retry
+    case 6: return 2;   // Cancel
+    default: return 1;  // OK
+  }
+}
+
+FakeControls& FakeControls::Add(int id, FakeControlKind kind, std::string text) {
+  FakeControl control;
+  control.kind = kind;
+  control.text = std::move(text);
+  controls_[id] = std::move(control);
+  return *this;
+}
+
+FakeControls& FakeControls::AddRadio(int id, int group, std::string text) {
+  Add(id, FakeControlKind::RadioButton, std::move(text));
+  controls_[id].radioGroup = group;
+  return *this;
+}
+
+FakeControl& FakeControls::Control(int id) {
+  FakeControl* control = Find(id);
+  if (!control) throw std::logic_error("FakeControls: no " + Describe(id));
+  return *control;
+}
+
+const FakeControl& FakeControls::Control(int id) const {
+  auto it = controls_.find(id);
+  if (it == controls_.end()) throw std::logic_error("FakeControls: no " + Describe(id));
+  return it->second;
+}
+
+FakeControl* FakeControls::Find(int id) {
+  auto it = controls_.find(id);
+  return it == controls_.end() ? nullptr : &it->second;
+}
+
+FakeControl* FakeControls::FindKind(int id, FakeControlKind kind) {
+  FakeControl* control = Find(id);
+  return control && control->kind == kind ? control : nullptr;
+}
+
+FakeControl& FakeControls::Reachable(int id, const char* action) {
+  FakeControl* control = Find(id);
+  if (!control) throw std::logic_error(std::string("cannot ") + action + ": no " + Describe(id));
+  if (!control->visible) throw std::logic_error(std::string("cannot ") + action + ": " + Describe(id) + " is hidden");
+  if (!control->enabled) throw std::logic_error(std::string("cannot ") + action + ": " + Describe(id) + " is disabled");
+  return *control;
+}
+
+std::vector<FakeListItem>* FakeControls::Items(int id, FakeControlKind kind) {
+  FakeControl* control = FindKind(id, kind);
+  return control ? &control->items : nullptr;
+}
+
+void FakeControls::Command(int id, int code) {
+  if (page_) page_->OnCommand(id, code);
+}
+
+void FakeControls::NotifyItemChanged(int id, int item, const FakeListViewRow& before, const FakeListViewRow& after) {
+  if (!page_) return;
+  ListViewItemChanged change{item, before.checked, after.checked, before.selected, after.selected};
+  std::intptr_t result = 0;
+  page_->OnNotify(id, kLvnItemChanged, &change, result);
+}
+
+// --- input ---
+
+void FakeControls::TypeText(int id, std::string_view text) {
+  FakeControl& control = Reachable(id, "type");
+  if (control.kind != FakeControlKind::Edit) throw std::logic_error("cannot type: " + Describe(id) + " is no edit");
+  control.text = std::string(text);
+  SetFocus(id);
+  Command(id, kEnChange);
+}
+
+void FakeControls::Click(int id) {
+  FakeControl& control = Reachable(id, "click");
+  switch (control.kind) {
+    case FakeControlKind::PushButton:
+      break;
+    case FakeControlKind::CheckBox:
+      control.check = control.check == kBstChecked ? kBstUnchecked : kBstChecked;
+      break;
+    case FakeControlKind::RadioButton:
+      for (auto& [otherId, other] : controls_) {
+        if (other.kind == FakeControlKind::RadioButton && other.radioGroup == control.radioGroup) other.check = kBstUnchecked;
+      }
+      control.check = kBstChecked;
+      break;
+    default:
+      throw std::logic_error("cannot click: " + Describe(id) + " is no button");
+  }
+  SetFocus(id);
+  Command(id, kBnClicked);
+}
+
+void FakeControls::SelectComboItem(int id, int index) {
+  FakeControl& control = Reachable(id, "select");
+  if (control.kind != FakeControlKind::ComboBox) throw std::logic_error("cannot select: " + Describe(id) + " is no combo box");
+  if (!ValidIndex(index, control.items.size())) throw std::logic_error("cannot select: no item " + std::to_string(index));
+  control.curSel = index;
+  Command(id, kCbnSelChange);
+}
+
+void FakeControls::SelectListItem(int id, int index) {
+  FakeControl& control = Reachable(id, "select");
+  if (control.kind != FakeControlKind::ListBox) throw std::logic_error("cannot select: " + Describe(id) + " is no list box");
+  if (!ValidIndex(index, control.items.size())) throw std::logic_error("cannot select: no item " + std::to_string(index));
+  control.curSel = index;
+  Command(id, kLbnSelChange);
+}
+
+void FakeControls::ClickListViewCheck(int id, int item) {
+  FakeControl& control = Reachable(id, "check");
+  if (control.kind != FakeControlKind::ListView) throw std::logic_error("cannot check: " + Describe(id) + " is no list view");
+  if (!ValidIndex(item, control.rows.size())) throw std::logic_error("cannot check: no item " + std::to_string(item));
+  ListViewSetCheckState(id, item, !control.rows[static_cast<std::size_t>(item)].checked);
+}
+
+void FakeControls::PickDate(int id, std::optional<DateTime> value) {
+  FakeControl& control = Reachable(id, "pick a date");
+  if (control.kind != FakeControlKind::DatePicker) throw std::logic_error("cannot pick: " + Describe(id) + " is no date picker");
+  control.date = value;
+  if (page_) {
+    std::intptr_t result = 0;
+    page_->OnNotify(id, kDtnDateTimeChange, nullptr, result);
+  }
+}
+
+// --- Controls ---
+
+std::string FakeControls::GetDlgItemTextA(int id, std::size_t bufferSize) {
+  FakeControl* control = Find(id);
+  if (!control || bufferSize == 0) return {};
+  std::string text = control->text;
+  // A drop-down list shows its selected item as its text.
+  if (control->kind == FakeControlKind::ComboBox && ValidIndex(control->curSel, control->items.size())) {
+    text = control->items[static_cast<std::size_t>(control->curSel)].text;
+  }
+  if (text.size() > bufferSize - 1) text.resize(bufferSize - 1);
+  return text;
+}
+
+bool FakeControls::SetDlgItemTextA(int id, std::string_view text) {
+  FakeControl* control = Find(id);
+  if (!control) return false;
+  control->text = std::string(text.substr(0, text.find('\0')));
+  if (control->kind == FakeControlKind::Edit) Command(id, kEnChange);
+  return true;
+}
+
+unsigned FakeControls::GetDlgItemInt(int id, bool* translated, bool isSigned) {
+  if (translated) *translated = false;
+  if (!Find(id)) return 0;
+  const auto value = ParseDlgItemInt(GetDlgItemTextA(id, kDlgItemIntBuffer), isSigned);
+  if (!value) return 0;
+  if (translated) *translated = true;
+  return *value;
+}
+
+bool FakeControls::SetDlgItemInt(int id, unsigned value, bool isSigned) {
+  return SetDlgItemTextA(id, FormatDlgItemInt(value, isSigned));
+}
+
+int FakeControls::IsDlgButtonChecked(int id) {
+  FakeControl* control = Find(id);
+  return control ? control->check : kBstUnchecked;
+}
+
+bool FakeControls::CheckDlgButton(int id, int state) {
+  FakeControl* control = Find(id);
+  if (!control) return false;
+  control->check = state;
+  return true;
+}
+
+bool FakeControls::HasDlgItem(int id) { return Find(id) != nullptr; }
+
+bool FakeControls::ShowDlgItem(int id, bool show) {
+  FakeControl* control = Find(id);
+  if (!control) return false;
+  control->visible = show;
+  return true;
+}
+
+bool FakeControls::IsDlgItemVisible(int id) {
+  FakeControl* control = Find(id);
+  return control && control->visible;
+}
+
+bool FakeControls::EnableDlgItem(int id, bool enable) {
+  FakeControl* control = Find(id);
+  if (!control) return false;
+  control->enabled = enable;
+  // A disabled control loses the focus, as on the platform.
+  if (!enable && focus_ == id) focus_ = 0;
+  return true;
+}
+
+bool FakeControls::IsDlgItemEnabled(int id) {
+  FakeControl* control = Find(id);
+  return control && control->enabled;
+}
+
+bool FakeControls::MoveDlgItemTo(int id, int placeId) {
+  FakeControl* control = Find(id);
+  FakeControl* place = Find(placeId);
+  if (!control || !place) return false;
+  control->rect = place->rect;
+  return true;
+}
+
+bool FakeControls::ComboResetContent(int id) {
+  FakeControl* control = FindKind(id, FakeControlKind::ComboBox);
+  if (!control) return false;
+  control->items.clear();
+  control->curSel = -1;
+  return true;
+}
+
+int FakeControls::ComboAddString(int id, std::string_view text, std::intptr_t itemData) {
+  auto* items = Items(id, FakeControlKind::ComboBox);
+  if (!items) return -1;
+  items->push_back({std::string(text), itemData});
+  return static_cast<int>(items->size()) - 1;
+}
+
+int FakeControls::ComboGetCount(int id) {
+  auto* items = Items(id, FakeControlKind::ComboBox);
+  return items ? static_cast<int>(items->size()) : -1;
+}
+
+int FakeControls::ComboGetCurSel(int id) {
+  FakeControl* control = FindKind(id, FakeControlKind::ComboBox);
+  return control ? control->curSel : -1;
+}
+
+bool FakeControls::ComboSetCurSel(int id, int index) {
+  FakeControl* control = FindKind(id, FakeControlKind::ComboBox);
+  if (!control) return false;
+  if (index == -1) {
+    control->curSel = -1;
+    return true;
+  }
+  if (!ValidIndex(index, control->items.size())) return false;
+  control->curSel = index;
+  return true;
+}
+
+std::intptr_t FakeControls::ComboGetItemData(int id, int index) {
+  auto* items = Items(id, FakeControlKind::ComboBox);
+  return items && ValidIndex(index, items->size()) ? (*items)[static_cast<std::size_t>(index)].data : 0;
+}
+
+std::string FakeControls::ComboGetLBText(int id, int index) {
+  auto* items = Items(id, FakeControlKind::ComboBox);
+  return items && ValidIndex(index, items->size()) ? (*items)[static_cast<std::size_t>(index)].text : std::string();
+}
+
+int FakeControls::ComboFindItemData(int id, std::intptr_t itemData) {
+  auto* items = Items(id, FakeControlKind::ComboBox);
+  if (!items) return -1;
+  for (std::size_t i = 0; i < items->size(); ++i) {
+    if ((*items)[i].data == itemData) return static_cast<int>(i);
+  }
+  return -1;
+}
+
+bool FakeControls::ListResetContent(int id) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListBox);
+  if (!control) return false;
+  control->items.clear();
+  control->curSel = -1;
+  return true;
+}
+
+int FakeControls::ListAddString(int id, std::string_view text, std::intptr_t itemData) {
+  auto* items = Items(id, FakeControlKind::ListBox);
+  if (!items) return -1;
+  items->push_back({std::string(text), itemData});
+  return static_cast<int>(items->size()) - 1;
+}
+
+int FakeControls::ListGetCount(int id) {
+  auto* items = Items(id, FakeControlKind::ListBox);
+  return items ? static_cast<int>(items->size()) : -1;
+}
+
+int FakeControls::ListGetCurSel(int id) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListBox);
+  return control ? control->curSel : -1;
+}
+
+bool FakeControls::ListSetCurSel(int id, int index) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListBox);
+  if (!control) return false;
+  if (index == -1) {
+    control->curSel = -1;
+    return true;
+  }
+  if (!ValidIndex(index, control->items.size())) return false;
+  control->curSel = index;
+  return true;
+}
+
+std::intptr_t FakeControls::ListGetItemData(int id, int index) {
+  auto* items = Items(id, FakeControlKind::ListBox);
+  return items && ValidIndex(index, items->size()) ? (*items)[static_cast<std::size_t>(index)].data : 0;
+}
+
+std::string FakeControls::ListGetText(int id, int index) {
+  auto* items = Items(id, FakeControlKind::ListBox);
+  return items && ValidIndex(index, items->size()) ? (*items)[static_cast<std::size_t>(index)].text : std::string();
+}
+
+int FakeControls::ListFindItemData(int id, std::intptr_t itemData) {
+  auto* items = Items(id, FakeControlKind::ListBox);
+  if (!items) return -1;
+  for (std::size_t i = 0; i < items->size(); ++i) {
+    if ((*items)[i].data == itemData) return static_cast<int>(i);
+  }
+  return -1;
+}
+
+bool FakeControls::ListViewInsertColumn(int id, int column, std::string_view heading, int width) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  if (!control || column < 0) return false;
+  const auto at = std::min(static_cast<std::size_t>(column), control->columns.size());
+  control->columns.insert(control->columns.begin() + static_cast<std::ptrdiff_t>(at), std::string(heading));
+  return true;
+}
+
+bool FakeControls::ListViewDeleteAllItems(int id) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  if (!control) return false;
+  control->rows.clear();
+  return true;
+}
+
+int FakeControls::ListViewInsertItem(int id, int index, std::string_view text) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  if (!control) return -1;
+  const auto at = std::min(static_cast<std::size_t>(std::max(index, 0)), control->rows.size());
+  FakeListViewRow row;
+  row.texts.emplace_back(text);
+  control->rows.insert(control->rows.begin() + static_cast<std::ptrdiff_t>(at), std::move(row));
+  return static_cast<int>(at);
+}
+
+int FakeControls::ListViewGetItemCount(int id) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  return control ? static_cast<int>(control->rows.size()) : 0;
+}
+
+std::string FakeControls::ListViewGetItemText(int id, int item, int subItem) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  if (!control || !ValidIndex(item, control->rows.size())) return {};
+  const auto& texts = control->rows[static_cast<std::size_t>(item)].texts;
+  return ValidIndex(subItem, texts.size()) ? texts[static_cast<std::size_t>(subItem)] : std::string();
+}
+
+bool FakeControls::ListViewSetItemText(int id, int item, int subItem, std::string_view text) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  if (!control || !ValidIndex(item, control->rows.size()) || subItem < 0) return false;
+  auto& texts = control->rows[static_cast<std::size_t>(item)].texts;
+  if (texts.size() <= static_cast<std::size_t>(subItem)) texts.resize(static_cast<std::size_t>(subItem) + 1);
+  texts[static_cast<std::size_t>(subItem)] = std::string(text);
+  return true;
+}
+
+bool FakeControls::ListViewGetCheckState(int id, int item) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  return control && ValidIndex(item, control->rows.size()) && control->rows[static_cast<std::size_t>(item)].checked;
+}
+
+bool FakeControls::ListViewSetCheckState(int id, int item, bool checked) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  if (!control || !ValidIndex(item, control->rows.size())) return false;
+  auto& row = control->rows[static_cast<std::size_t>(item)];
+  if (row.checked == checked) return true;
+  const FakeListViewRow before = row;
+  row.checked = checked;
+  NotifyItemChanged(id, item, before, row);
+  return true;
+}
+
+int FakeControls::ListViewGetSelectedItem(int id) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  if (!control) return -1;
+  for (std::size_t i = 0; i < control->rows.size(); ++i) {
+    if (control->rows[i].selected) return static_cast<int>(i);
+  }
+  return -1;
+}
+
+bool FakeControls::ListViewSelectItem(int id, int item) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  if (!control || (item != -1 && !ValidIndex(item, control->rows.size()))) return false;
+  for (std::size_t i = 0; i < control->rows.size(); ++i) {
+    auto& row = control->rows[i];
+    const bool selected = static_cast<int>(i) == item;
+    if (row.selected == selected) continue;
+    const FakeListViewRow before = row;
+    row.selected = selected;
+    NotifyItemChanged(id, static_cast<int>(i), before, row);
+  }
+  return true;
+}
+
+bool FakeControls::UpDownSetRange(int id, int lower, int upper) {
+  FakeControl* control = FindKind(id, FakeControlKind::UpDown);
+  if (!control) return false;
+  control->lower = lower;
+  control->upper = upper;
+  return true;
+}
+
+int FakeControls::UpDownGetPos(int id) {
+  FakeControl* control = FindKind(id, FakeControlKind::UpDown);
+  return control ? control->pos : 0;
+}
+
+bool FakeControls::UpDownSetPos(int id, int pos) {
+  FakeControl* control = FindKind(id, FakeControlKind::UpDown);
+  if (!control) return false;
+  // The control keeps its position inside its range, whichever way round the range is given.
+  const int low = std::min(control->lower, control->upper);
+  const int high = std::max(control->lower, control->upper);
+  control->pos = std::clamp(pos, low, high);
+  return true;
+}
+
+std::optional<DateTime> FakeControls::DateTimeGetSystemTime(int id) {
+  FakeControl* control = FindKind(id, FakeControlKind::DatePicker);
+  return control ? control->date : std::nullopt;
+}
+
+bool FakeControls::DateTimeSetSystemTime(int id, const DateTime& value) {
+  FakeControl* control = FindKind(id, FakeControlKind::DatePicker);
+  if (!control) return false;
+  control->date = value;
+  return true;
+}
+
+bool FakeControls::SetFocus(int id) {
+  FakeControl* control = Find(id);
+  if (!control || !control->enabled || !control->visible) return false;
+  focus_ = id;
+  focusHistory_.push_back(id);
+  return true;
+}
+
+int FakeControls::OrvMessageBox(std::string_view text, std::string_view caption, unsigned flags) {
+  messageBoxes_.push_back({std::string(text), std::string(caption), flags});
+  if (answers_.empty()) return FirstMessageBoxButton(flags);
+  const int answer = answers_.front();
+  answers_.pop_front();
+  return answer;
+}
+
+void FakeControls::SheetChanged() {
+  sheetChanged_ = true;
+  ++sheetChangedCalls_;
+}
+
+void FakeControls::SheetUnchanged() {
+  sheetChanged_ = false;
+  ++sheetUnchangedCalls_;
+}
+
+std::intptr_t FakeControls::SendPageApply(int dialogId) {
+  pageApplySent_.push_back(dialogId);
+  return applyHandler_ ? applyHandler_(dialogId) : 0;
+}
+
+}  // namespace orv

@@ -1,0 +1,200 @@
+#include "dlgkit/fake/HeadlessRunner.h"
+
+#include <stdexcept>
+
+namespace orv {
+
+HeadlessRunner::HeadlessRunner(Mode mode, WindowOps* windowOps) : mode_(mode), windowOps_(windowOps) {}
+
+void HeadlessRunner::AddPage(Page& page, FakeControls& controls, WindowHandle window) {
+  if (running_) throw std::logic_error("HeadlessRunner: pages are added before Start");
+  pages_.push_back({&page, &controls, window});
+}
+
+void HeadlessRunner::SetPageApplyHandler(std::function<std::intptr_t(int)> handler) {
+  for (Entry& entry : pages_) entry.controls->SetPageApplyHandler(handler);
+}
+
+// A page that throws ends the run with -1, as the Win32 dialog procedure does; the exception
+// then reaches the test.
+template <class F>
+auto HeadlessRunner::Guard(F&& f) -> decltype(f()) {
+  try {
+    return f();
+  } catch (...) {
+    End(-1);
+    throw;
+  }
+}
+
+void HeadlessRunner::RequireRunning(const char* action) const {
+  if (!running_) throw std::logic_error(std::string("HeadlessRunner: ") + action + " while the sheet is not running");
+}
+
+void HeadlessRunner::Start(int startPage) {
+  if (running_) throw std::logic_error("HeadlessRunner: started twice");
+  running_ = true;
+  applied_ = false;
+  result_ = 0;
+  current_ = -1;
+  for (Entry& entry : pages_) entry.controls->AttachPage(entry.page);
+  if (pages_.empty()) return;
+  if (startPage < 0 || startPage >= PageCount()) startPage = 0;
+  Guard([&] { return Activate(startPage, +1); });
+}
+
+bool HeadlessRunner::IsCreated(int index) const {
+  return index >= 0 && index < PageCount() && pages_[static_cast<std::size_t>(index)].created;
+}
+
+bool HeadlessRunner::IsApplyEnabled() const {
+  for (const Entry& entry : pages_) {
+    if (entry.created && entry.controls->IsSheetChanged()) return true;
+  }
+  return false;
+}
+
+void HeadlessRunner::EnsureCreated(int index) {
+  Entry& entry = pages_[static_cast<std::size_t>(index)];
+  if (entry.created) return;
+  entry.created = true;
+  entry.page->OnInitDialog(*entry.controls, entry.window, windowOps_);
+}
+
+bool HeadlessRunner::Activate(int index, int direction) {
+  for (; index >= 0 && index < PageCount(); index += direction) {
+    EnsureCreated(index);
+    if (pages_[static_cast<std::size_t>(index)].page->OnSetActive()) {
+      current_ = index;
+      return true;
+    }
+    if (direction == 0) break;
+  }
+  return false;
+}
+
+bool HeadlessRunner::ChangePage(int target, int direction) {
+  if (target < 0 || target >= PageCount() || target == current_) return false;
+  if (current_ >= 0 && !pages_[static_cast<std::size_t>(current_)].page->OnKillActive()) return false;
+  if (Activate(target, direction)) return true;
+  // Nobody in that direction would be shown: the page that was left comes back.
+  if (current_ >= 0) pages_[static_cast<std::size_t>(current_)].page->OnSetActive();
+  return false;
+}
+
+bool HeadlessRunner::SelectPage(int index) {
+  RequireRunning("SelectPage");
+  if (mode_ == Mode::Wizard) throw std::logic_error("HeadlessRunner: a wizard has no tabs");
+  return Guard([&] { return ChangePage(index, index < current_ ? -1 : +1); });
+}
+
+bool HeadlessRunner::Apply(bool closing) {
+  if (current_ >= 0 && !pages_[static_cast<std::size_t>(current_)].page->OnKillActive()) return false;
+  for (int i = 0; i < PageCount(); ++i) {
+    Entry& entry = pages_[static_cast<std::size_t>(i)];
+    if (!entry.created) continue;
+    switch (entry.page->OnApply()) {
+      case ApplyResult::NoError:
+        continue;
+      case ApplyResult::Invalid:
+        if (i != current_) {
+          if (Activate(i, 0)) return false;
+        }
+        // The page that was left by OnKillActive is shown again.
+        if (current_ >= 0) pages_[static_cast<std::size_t>(current_)].page->OnSetActive();
+        return false;
+      case ApplyResult::InvalidNoChangePage:
+        if (current_ >= 0) pages_[static_cast<std::size_t>(current_)].page->OnSetActive();
+        return false;
+    }
+  }
+  applied_ = true;
+  for (Entry& entry : pages_) entry.controls->ClearSheetChanged();
+  if (!closing && current_ >= 0) pages_[static_cast<std::size_t>(current_)].page->OnSetActive();
+  return true;
+}
+
+bool HeadlessRunner::PressApply() {
+  RequireRunning("Apply");
+  if (mode_ == Mode::Wizard) throw std::logic_error("HeadlessRunner: a wizard has no Apply button");
+  if (!IsApplyEnabled()) return false;
+  return Guard([&] { return Apply(false); });
+}
+
+bool HeadlessRunner::PressOk() {
+  RequireRunning("OK");
+  if (mode_ == Mode::Wizard) throw std::logic_error("HeadlessRunner: a wizard has no OK button");
+  return Guard([&] {
+    if (!Apply(true)) return false;
+    End(1);
+    return true;
+  });
+}
+
+bool HeadlessRunner::PressCancel() {
+  RequireRunning("Cancel");
+  return Guard([&] {
+    if (current_ >= 0 && !pages_[static_cast<std::size_t>(current_)].page->OnQueryCancel()) return false;
+    for (Entry& entry : pages_) {
+      if (entry.created) entry.page->OnReset();
+    }
+    End(applied_ ? 1 : 0);
+    return true;
+  });
+}
+
+bool HeadlessRunner::WizardButtonEnabled(unsigned button) const {
+  if (current_ < 0) return false;
+  const auto buttons = pages_[static_cast<std::size_t>(current_)].controls->WizardButtons();
+  return !buttons || (*buttons & button) != 0;
+}
+
+int HeadlessRunner::IndexOfDialogId(int dialogId) const {
+  for (int i = 0; i < PageCount(); ++i) {
+    if (pages_[static_cast<std::size_t>(i)].page->DialogId() == dialogId) return i;
+  }
+  return -1;
+}
+
+bool HeadlessRunner::PressNext() {
+  RequireRunning("Next");
+  if (mode_ != Mode::Wizard) throw std::logic_error("HeadlessRunner: Next needs a wizard");
+  if (!WizardButtonEnabled(kWizNext)) return false;
+  return Guard([&] {
+    const int answer = pages_[static_cast<std::size_t>(current_)].page->OnWizardNext();
+    if (answer == kWizardStay) return false;
+    const int target = answer == kWizardDefault ? current_ + 1 : IndexOfDialogId(answer);
+    return ChangePage(target, +1);
+  });
+}
+
+bool HeadlessRunner::PressBack() {
+  RequireRunning("Back");
+  if (mode_ != Mode::Wizard) throw std::logic_error("HeadlessRunner: Back needs a wizard");
+  if (!WizardButtonEnabled(kWizBack)) return false;
+  return Guard([&] {
+    const int answer = pages_[static_cast<std::size_t>(current_)].page->OnWizardBack();
+    if (answer == kWizardStay) return false;
+    const int target = answer == kWizardDefault ? current_ - 1 : IndexOfDialogId(answer);
+    return ChangePage(target, -1);
+  });
+}
+
+bool HeadlessRunner::PressFinish() {
+  RequireRunning("Finish");
+  if (mode_ != Mode::Wizard) throw std::logic_error("HeadlessRunner: Finish needs a wizard");
+  if (!WizardButtonEnabled(kWizFinish)) return false;
+  return Guard([&] {
+    if (!pages_[static_cast<std::size_t>(current_)].page->OnWizardFinish()) return false;
+    End(1);
+    return true;
+  });
+}
+
+void HeadlessRunner::End(int result) {
+  running_ = false;
+  result_ = result;
+  for (Entry& entry : pages_) entry.controls->AttachPage(nullptr);
+}
+
+}  // namespace orv

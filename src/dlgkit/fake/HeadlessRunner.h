@@ -1,0 +1,94 @@
+#pragma once
+// HeadlessRunner: a property sheet or wizard without windows. It drives Page objects with the
+// same operations, in the same order, as the platform's PropertySheet does, so a test can visit
+// a tab, type, click and press Apply, OK, Cancel, Back, Next or Finish.
+//
+// The order it keeps (that of the platform's sheet):
+// - A page is created (OnInitDialog) the first time it is shown, never again.
+// - Start: the start page is created and activated. A page whose OnSetActive refuses is passed
+//   over in the direction of travel (forwards at start).
+// - Changing page: OnKillActive on the current page (a refusal keeps it), then create-if-needed
+//   and OnSetActive on the new one. If no page in that direction accepts, the old page is
+//   activated again.
+// - Apply: OnKillActive on the current page, then OnApply on every created page in sheet order,
+//   stopping at the first refusal (ApplyResult::Invalid shows the refusing page,
+//   InvalidNoChangePage stays). After a successful Apply the sheet's changed marks are cleared
+//   and the current page gets OnSetActive again. The Apply button is only live after a page
+//   said SheetChanged(); pressing it otherwise does nothing.
+// - OK: Apply as above, then the run ends. Cancel: OnQueryCancel on the current page (a refusal
+//   keeps the sheet open), then OnReset on every created page, and the run ends.
+// - Wizard: Next / Back ask the current page (kWizardStay stays, kWizardDefault goes to the
+//   neighbour, a dialog id jumps to that page), then change page as above. Finish asks
+//   OnWizardFinish and ends the run. When the current page has set the wizard buttons, a
+//   button it didn't enable does nothing.
+// - The result, as PropertySheet's: 1 when changes were applied during the run (Apply, OK or
+//   Finish), 0 when not, -1 when a page threw: the run ends and the exception reaches the test.
+
+#include <functional>
+#include <vector>
+
+#include "dlgkit/Page.h"
+#include "dlgkit/fake/ControlsFake.h"
+
+namespace orv {
+
+class WindowOps;
+
+class HeadlessRunner {
+ public:
+  enum class Mode { Sheet, Wizard };
+
+  explicit HeadlessRunner(Mode mode = Mode::Sheet, WindowOps* windowOps = nullptr);
+
+  // The pages in sheet order; the test owns pages and controls and keeps them alive.
+  // `window` is what OnInitDialog receives as the page's window (a fake window tree node, or null).
+  void AddPage(Page& page, FakeControls& controls, WindowHandle window = nullptr);
+  // Every page's kWmLsPageApply goes to this handler (the sheet).
+  void SetPageApplyHandler(std::function<std::intptr_t(int dialogId)> handler);
+
+  void Start(int startPage = 0);
+
+  bool SelectPage(int index);  // a tab click; sheet mode only. True when the page changed.
+  bool PressApply();           // true when every page accepted
+  bool PressOk();              // true when the sheet closed
+  bool PressCancel();          // true when the sheet closed
+  bool PressNext();            // true when the page changed
+  bool PressBack();
+  bool PressFinish();          // true when the wizard closed
+
+  bool IsRunning() const { return running_; }
+  int Result() const { return result_; }
+  int CurrentPage() const { return current_; }
+  bool IsCreated(int index) const;
+  bool IsApplyEnabled() const;
+  int PageCount() const { return static_cast<int>(pages_.size()); }
+
+ private:
+  struct Entry {
+    Page* page;
+    FakeControls* controls;
+    WindowHandle window;
+    bool created = false;
+  };
+
+  template <class F>
+  auto Guard(F&& f) -> decltype(f());
+  void RequireRunning(const char* action) const;
+  void EnsureCreated(int index);
+  bool Activate(int index, int direction);
+  bool ChangePage(int target, int direction);
+  bool Apply(bool closing);
+  bool WizardButtonEnabled(unsigned button) const;
+  int IndexOfDialogId(int dialogId) const;
+  void End(int result);
+
+  Mode mode_;
+  WindowOps* windowOps_;
+  std::vector<Entry> pages_;
+  int current_ = -1;
+  bool running_ = false;
+  bool applied_ = false;
+  int result_ = 0;
+};
+
+}  // namespace orv
