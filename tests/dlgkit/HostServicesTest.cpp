@@ -1,0 +1,90 @@
+// The host services: which host is current, help over it, the in-process theme host, and the
+// strictness of the test fake itself.
+#include "dlgkit/HostServices.h"
+
+#include <gtest/gtest.h>
+
+#include "dlgkit/HostServicesInProcess.h"
+#include "dlgkit/fake/FakeHostServices.h"
+
+namespace {
+
+using orv::FakeHostServices;
+
+TEST(HostServicesTest, ShowHelpGoesToTheHelpServiceOrAnswersMinusOne) {
+  FakeHostServices host;
+  orv::ScopedHostServices scope(host);
+  host.ExpectHelp("CHARTX", 4711, 0, 7);
+  host.ExpectNoHelpService();
+  EXPECT_EQ(orv::ShowHelp("CHARTX", 4711), 7);
+  EXPECT_EQ(orv::ShowHelp("CHARTX", 4711), -1);
+  EXPECT_TRUE(host.AllExpectationsMet());
+}
+
+TEST(HostServicesTest, FakeRefusesWhatNobodyExpected) {
+  FakeHostServices host;
+  orv::ScopedHostServices scope(host);
+  EXPECT_THROW(orv::ShowHelp("CHARTX", 1), orv::UnexpectedHostCall);
+  host.ExpectHelp("CHARTX", 1, 0, 0);
+  EXPECT_THROW(orv::ShowHelp("CHARTX", 2), orv::UnexpectedHostCall);  // other arguments
+  EXPECT_THROW(host.CreateSettingsService(), orv::UnexpectedHostCall);
+  EXPECT_EQ(host.UnexpectedCalls().size(), 3u);
+  EXPECT_FALSE(host.AllExpectationsMet());  // the expected help call never happened
+}
+
+TEST(HostServicesTest, FakeSettingsServiceFailsWithTheGivenStatus) {
+  FakeHostServices host;
+  host.ExpectThemeFailure(orv::kStatusFail);
+  auto service = host.CreateSettingsService();
+  ASSERT_NE(service, nullptr);
+  ThemeColors theme;
+  std::int32_t result = 0;
+  try {
+    service->GetTheme(theme, 0, result);
+    ADD_FAILURE() << "no exception";
+  } catch (const XmlComError& error) {
+    EXPECT_EQ(error.status(), orv::kStatusFail);
+  }
+}
+
+TEST(HostServicesTest, ScopedHostsNestAndRestore) {
+  orv::HostServices& platform = orv::CurrentHostServices();
+  FakeHostServices outer, inner;
+  {
+    orv::ScopedHostServices a(outer);
+    EXPECT_EQ(&orv::CurrentHostServices(), &outer);
+    {
+      orv::ScopedHostServices b(inner);
+      EXPECT_EQ(&orv::CurrentHostServices(), &inner);
+    }
+    EXPECT_EQ(&orv::CurrentHostServices(), &outer);
+  }
+  EXPECT_EQ(&orv::CurrentHostServices(), &platform);
+  EXPECT_EQ(&platform, &orv::PlatformHostServices());
+}
+
+TEST(HostServicesTest, InProcessHostServesItsThemeAndNoHelp) {
+  ThemeColors served;
+  served[0] = 0x203040;
+  served[30] = 0x0A0B0C;
+  orv::InProcessHostServices host(served);
+  orv::ScopedHostServices scope(host);
+  auto settings = orv::CurrentHostServices().CreateSettingsService();
+  ASSERT_NE(settings, nullptr);
+  ThemeColors received;
+  std::int32_t result = 5;
+  settings->GetTheme(received, 0, result);
+  EXPECT_EQ(result, 0);
+  EXPECT_EQ(received[0], 0x203040u);
+  EXPECT_EQ(received[30], 0x0A0B0Cu);
+  EXPECT_EQ(orv::ShowHelp("CHARTX", 1), -1);
+}
+
+#ifndef _WIN32
+TEST(HostServicesTest, NativeBuildHasNoHost) {
+  EXPECT_EQ(orv::PlatformHostServices().CreateSettingsService(), nullptr);
+  EXPECT_EQ(orv::PlatformHostServices().CreateHelpService(), nullptr);
+}
+#endif
+
+}  // namespace

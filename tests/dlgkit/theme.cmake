@@ -1,0 +1,6 @@
+# Tests of the dialog base and its theme.
+list(APPEND ORV_DLGKIT_TEST_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/OrvDialogTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ThemedControlsTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/HostServicesTest.cpp)
+list(APPEND ORV_DLGKIT_WIN32_TEST_SOURCES)
