@@ -1,8 +1,12 @@
-// orvdemo: shows one themed dialog of the kit.
-//   orvdemo                         the dialog stays until the user closes it
+// orvdemo: shows one themed dialog of the kit, with a theme served by an in-process host.
+//   orvdemo                         the dialog stays until the user closes it; OK prints the settings
 //   orvdemo --screenshot <file.png> once shown and painted, writes it as a PNG and exits
-#include "WindowCapture.h"
-#include "resource.h"
+// Exit code: 0 done, 1 the dialog or the screenshot failed, 2 bad command line.
+#include "DemoDialog.h"
+
+#include "dlgkit/HostServicesInProcess.h"
+#include "dlgkit/WindowOps.h"
+#include "dlgkit/win32/DialogHost.h"
 
 #include <windows.h>
 #include <commctrl.h>
@@ -10,86 +14,89 @@
 #include <shellapi.h>
 
 #include <cstdio>
+#include <exception>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace {
 
-constexpr UINT WM_DEMO_SCREENSHOT = WM_APP + 1;
+COLORREF Rgb(int r, int g, int b) { return RGB(r, g, b); }
 
-struct Options {
-    std::wstring screenshot;
-};
-
-struct DemoState {
-    const Options* options = nullptr;
-    HRESULT screenshotResult = S_OK;
-};
-
-INT_PTR CALLBACK DemoProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
+// A dark chart-room theme, far from the system colours, so the theming shows at a glance.
+ThemeColors DemoTheme()
 {
-    auto* state = reinterpret_cast<DemoState*>(GetWindowLongPtrW(dialog, DWLP_USER));
-    switch (message) {
-    case WM_INITDIALOG:
-        SetWindowLongPtrW(dialog, DWLP_USER, lParam);
-        state = reinterpret_cast<DemoState*>(lParam);
-        if (!state->options->screenshot.empty())
-            PostMessageW(dialog, WM_DEMO_SCREENSHOT, 0, 0);
-        return TRUE;
-    case WM_DEMO_SCREENSHOT:
-        // A modal dialog is shown only when its loop first goes idle, after this message.
-        ShowWindow(dialog, SW_SHOWNORMAL);
-        SetForegroundWindow(dialog);
-        state->screenshotResult = orv::apps::CaptureWindowToPng(dialog, state->options->screenshot);
-        EndDialog(dialog, IDOK);
-        return TRUE;
-    case WM_COMMAND:
-        if (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL) {
-            EndDialog(dialog, LOWORD(wParam));
-            return TRUE;
-        }
-        break;
-    }
-    return FALSE;
+    ThemeColors theme;
+    theme[0] = Rgb(30, 36, 46);    // dialog, radio, check and static background
+    theme[1] = Rgb(58, 68, 84);    // button face
+    theme[3] = Rgb(226, 232, 240); // text
+    theme[4] = Rgb(18, 22, 30);    // edit, list and combo fields
+    theme[6] = Rgb(0, 150, 100);   // selected buttons
+    theme[7] = Rgb(120, 128, 140); // disabled text
+    return theme;
 }
 
-} // namespace
+class ComApartment {
+public:
+    ComApartment() : hr_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
+    ~ComApartment() { if (SUCCEEDED(hr_)) CoUninitialize(); }
+    ComApartment(const ComApartment&) = delete;
+    ComApartment& operator=(const ComApartment&) = delete;
+private:
+    HRESULT hr_;
+};
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int)
+int Run(HINSTANCE instance)
 {
     int argc = 0;
     std::unique_ptr<LPWSTR, decltype(&LocalFree)> argv(CommandLineToArgvW(GetCommandLineW(), &argc), &LocalFree);
-    Options options;
-    for (int i = 1; i < argc; ++i) {
-        std::wstring arg = argv.get()[i];
-        if (arg == L"--screenshot" && i + 1 < argc) {
-            options.screenshot = argv.get()[++i];
+    std::wstring screenshot;
+    for (int i = 1; argv && i < argc; ++i) {
+        const std::wstring arg = argv.get()[i];
+        if (arg == L"--screenshot" && i + 1 < argc && argv.get()[i + 1][0] != L'\0') {
+            screenshot = argv.get()[++i];
         } else {
             std::fprintf(stderr, "usage: orvdemo [--screenshot <file.png>]\n");
             return 2;
         }
     }
 
-    INITCOMMONCONTROLSEX controls{sizeof(controls), ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS};
-    InitCommonControlsEx(&controls);
-    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS};
+    InitCommonControlsEx(&classes);
+    ComApartment com;
 
-    DemoState state;
-    state.options = &options;
-    INT_PTR result = DialogBoxParamW(instance, MAKEINTRESOURCEW(IDD_DEMO), nullptr, DemoProc,
-                                     reinterpret_cast<LPARAM>(&state));
-    CoUninitialize();
+    // The kit asks "the host" for its theme; here the host is this program.
+    orv::InProcessHostServices host(DemoTheme());
+    orv::ScopedHostServices useHost(host);
+
+    orv::demo::CDemoDlg dialog(screenshot);
+    const INT_PTR result = orv::RunPageDialog(dialog, instance, dialog.DialogId(), nullptr, &orv::DefaultWindowOps());
     if (result == -1) {
         std::fprintf(stderr, "orvdemo: cannot create the dialog (error %lu)\n", GetLastError());
         return 1;
     }
-    if (!options.screenshot.empty()) {
-        if (FAILED(state.screenshotResult)) {
-            std::fprintf(stderr, "orvdemo: screenshot failed (0x%08lx)\n", static_cast<unsigned long>(state.screenshotResult));
+    if (!screenshot.empty()) {
+        if (FAILED(dialog.ScreenshotResult())) {
+            std::fprintf(stderr, "orvdemo: cannot write %ls (0x%08lx)\n", screenshot.c_str(),
+                         static_cast<unsigned long>(dialog.ScreenshotResult()));
             return 1;
         }
-        std::fprintf(stdout, "orvdemo: screenshot written to %ls\n", options.screenshot.c_str());
+        std::printf("orvdemo: screenshot written to %ls\n", screenshot.c_str());
+    } else if (result == IDOK) {
+        std::printf("%s\n", orv::demo::Describe(dialog.Settings()).c_str());
     }
     return 0;
+}
+
+} // namespace
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int)
+{
+    try {
+        return Run(instance);
+    } catch (const std::exception& e) {
+        std::fprintf(stderr, "orvdemo: %s\n", e.what());
+    } catch (...) {
+        std::fprintf(stderr, "orvdemo: unexpected failure\n");
+    }
+    return 1;
 }
