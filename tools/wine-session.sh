@@ -41,6 +41,13 @@ export WINEPREFIX=$prefix WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
 # no desktop menu entries written into the user's home.
 export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=;winemenubuilder.exe=d}
 
+# One session per prefix at a time: a session's end stops the prefix's wineserver.
+exec 9>"$prefix.lock"
+if ! flock -n 9; then
+  echo "wine-session: waiting for another session on $prefix to end" >&2
+  flock 9
+fi
+
 xvfb_pid=
 log_dir=$(mktemp -d "${TMPDIR:-/tmp}/orv-wine-session.XXXXXX")
 
@@ -65,7 +72,7 @@ else
   command -v Xvfb >/dev/null || { echo "wine-session: Xvfb not found; run tools/deps.sh" >&2; exit 2; }
   # Xvfb picks a free display itself and writes its number to fd 3: no race with other sessions.
   Xvfb -displayfd 3 -screen 0 "${ORV_XVFB_SCREEN:-1280x1024x24}" -nolisten tcp \
-    3>"$log_dir/display" </dev/null >"$log_dir/xvfb.log" 2>&1 &
+    3>"$log_dir/display" </dev/null >"$log_dir/xvfb.log" 2>&1 9>&- &
   xvfb_pid=$!
   for _ in $(seq 1 100); do
     [ -s "$log_dir/display" ] && break
@@ -82,7 +89,7 @@ fi
 
 if [ ! -f "$WINEPREFIX/system.reg" ]; then
   echo "wine-session: making the Wine prefix $WINEPREFIX (first use, about a minute)" >&2
-  if ! wineboot -i >"$log_dir/wineboot.log" 2>&1; then
+  if ! wineboot -i >"$log_dir/wineboot.log" 2>&1 9>&-; then
     cat "$log_dir/wineboot.log" >&2
     echo "wine-session: wineboot failed" >&2
     exit 3
@@ -91,8 +98,8 @@ if [ ! -f "$WINEPREFIX/system.reg" ]; then
 fi
 
 # Persistent server, detached from our pipes, then the prefix brought up to date.
-wineserver -p </dev/null >/dev/null 2>&1
-wineboot -i </dev/null >/dev/null 2>&1 || true
+wineserver -p </dev/null >/dev/null 2>&1 9>&-
+wineboot -i </dev/null >/dev/null 2>&1 9>&- || true
 
 # Unmanaged windows under Xvfb (no window manager there); managed ones on a real desktop,
 # so its window manager can move and close them. Written only when it changes.
@@ -100,15 +107,16 @@ managed=N
 [ "$use_display" = 1 ] && managed=Y
 if ! grep -A3 -F '[Software\\Wine\\X11 Driver]' "$WINEPREFIX/user.reg" 2>/dev/null \
      | grep -qx "\"Managed\"=\"$managed\""; then
-  wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d $managed /f </dev/null >/dev/null 2>&1
+  wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d $managed /f </dev/null >/dev/null 2>&1 9>&-
 fi
 
 # The desktop process (explorer) starts with the first program that needs a window and keeps
 # that program's output pipes: started here, detached, ctest never waits on it.
-wine rundll32.exe user32.dll,GetDesktopWindow </dev/null >/dev/null 2>&1 || true
+wine rundll32.exe user32.dll,GetDesktopWindow </dev/null >/dev/null 2>&1 9>&- || true
 
 set +e
-"$@"
+# The lock stays with this script: nothing the command leaves behind holds it.
+"$@" 9>&-
 rc=$?
 set -e
 exit $rc
