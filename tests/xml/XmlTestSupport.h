@@ -17,16 +17,21 @@ inline XmlNode Load(const std::string& text) {
   return document;
 }
 
-// The markup of a node with the line ends MSXML puts after a document's top-level nodes removed.
+// The markup of a node without the layout MSXML adds when it prints (CR LF and tabs between
+// elements when white space is not preserved), so that both backends compare alike.
 inline std::string Markup(const XmlNode& node) {
-  std::string text = XmlGetXml(node);
+  const std::string text = XmlGetXml(node);
   std::string out;
-  for (char c : text)
-    if (c != '\r' && c != '\n') out += c;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text.compare(i, 2, "\r\n") == 0) {
+      for (i += 2; i < text.size() && text[i] == '\t';) ++i;
+      --i;
+      continue;
+    }
+    out += text[i];
+  }
   return out;
 }
-
-inline std::string NameOf(const XmlNode& node) { return node ? Markup(node).substr(0, 8) : "(null)"; }
 
 // Expects `call` to raise XmlComError with `status`.
 template <typename Call>
