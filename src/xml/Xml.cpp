@@ -91,6 +91,10 @@ XmlNode XmlFindChild(XmlNode parent, const char* name) {
   return XmlFindNode(Wrap(std::move(first)), name, false);
 }
 
+XmlNode XmlFirstChild(XmlNode node) { return node ? Wrap(dom::FirstChild(*node.impl())) : XmlNode(); }
+
+XmlNode XmlNextSibling(XmlNode node) { return node ? Wrap(dom::NextSibling(*node.impl())) : XmlNode(); }
+
 bool XmlIsTextNode(XmlNode node) {
   if (!node) return false;
   const std::string name = dom::NodeName(*node.impl());

@@ -50,6 +50,9 @@ XmlNode XmlFindNode(XmlNode start, const char* name, bool recursive);
 XmlNode XmlFindChild(XmlNode parent, const char* name);
 XmlNode XmlFirstTextChild(XmlNode node);
 bool XmlIsTextNode(XmlNode node);
+// Walking a list of children in order: null for a null node or when there is none.
+XmlNode XmlFirstChild(XmlNode node);
+XmlNode XmlNextSibling(XmlNode node);
 
 // Reading: the result is the node read (attribute, child or the node itself), or null.
 XmlNode XmlGetAttr(XmlNode node, const char* name, std::string& value);

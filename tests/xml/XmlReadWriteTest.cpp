@@ -68,6 +68,22 @@ TEST(XmlFind, ChildAndTextChild) {
   EXPECT_FALSE(XmlFirstTextChild(XmlNode()));
 }
 
+TEST(XmlFind, ChildrenInOrder) {
+  XmlNode document = Load("<L><I n=\"0\"/>x<!--c--><I n=\"1\"><Sub/></I><J/></L>");
+  std::string names;
+  for (XmlNode child = XmlFirstChild(XmlFindNode(document, "L", true)); child; child = XmlNextSibling(child)) {
+    std::string n = "-";
+    XmlGetAttr(child, "n", n);
+    names += XmlGetXml(child).substr(0, 2) + n + " ";
+  }
+  EXPECT_EQ(names, "<I0 x- <!- <I1 <J- ");
+  EXPECT_FALSE(XmlFirstChild(XmlNode()));
+  EXPECT_FALSE(XmlNextSibling(XmlNode()));
+  EXPECT_FALSE(XmlNextSibling(XmlFindNode(document, "L", true))) << "the root has no sibling";
+  std::string unused;
+  EXPECT_FALSE(XmlNextSibling(XmlGetAttr(XmlFindNode(document, "I", true), "n", unused))) << "attributes are no children";
+}
+
 TEST(XmlRead, AttributesAssignOnlyWhenPresent) {
   XmlNode sheet = XmlFindNode(Load(kSheet), "PropertySheet", true);
   std::string text = "default";
