@@ -132,9 +132,22 @@ pugi::xml_node AppendShallowCopy(pugi::xml_node destination, pugi::xml_node sour
   return copy;
 }
 
+// Collects printed markup. pugixml writes a carriage return in text as it is, and a load turns it
+// into a line feed; written as a reference, as MSXML writes it, it survives the round trip. Only
+// text can carry one: a load normalises line ends elsewhere, attribute values are escaped, and
+// the layer makes no comments or instructions.
 struct StringWriter : pugi::xml_writer {
   std::string text;
-  void write(const void* data, std::size_t size) override { text.append(static_cast<const char*>(data), size); }
+  void write(const void* data, std::size_t size) override {
+    const std::string_view chunk(static_cast<const char*>(data), size);
+    for (std::size_t start = 0;;) {
+      const std::size_t cr = chunk.find('\r', start);
+      text.append(chunk.substr(start, cr - start));
+      if (cr == std::string_view::npos) break;
+      text += "&#13;";
+      start = cr + 1;
+    }
+  }
 };
 
 constexpr unsigned kPrintFlags = pugi::format_raw | pugi::format_no_declaration;
