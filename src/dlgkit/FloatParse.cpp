@@ -1,5 +1,6 @@
 #include "dlgkit/FloatParse.h"
 
+#include <cmath>
 #include <cstdlib>
 #include <string>
 
@@ -18,6 +19,8 @@ std::optional<double> ParseFloatField(std::string_view text) {
   const double value = std::strtod(begin, &end);
   // strtod gives 0.0 both for a real zero and for "no number": only a leading digit 0 tells them apart.
   if (value == 0.0 && *begin != '0') return std::nullopt;
+  // "inf", "nan" and overflowing exponents are no price or quantity a field can hold.
+  if (!std::isfinite(value)) return std::nullopt;
   while (IsBlank(*end)) ++end;
   if (*end != '\0') return std::nullopt;
   return value;

@@ -1,0 +1,84 @@
+// The string-keyed map: its hash, its case-sensitive keys, null keys.
+
+#include <gtest/gtest.h>
+
+#include <type_traits>
+
+#include "dlgkit/StrHash.h"
+
+namespace {
+
+TEST(CStringTraits, HashIsTimes33OverUnsignedBytes) {
+  EXPECT_EQ(CStringTraits::Hash(""), 0u);
+  EXPECT_EQ(CStringTraits::Hash("a"), 97u);
+  EXPECT_EQ(CStringTraits::Hash("ab"), 97u * 33 + 98);
+  // Bytes above 127 count as unsigned, not as negative chars.
+  EXPECT_EQ(CStringTraits::Hash("\xFF"), 255u);
+  // The accumulator is 64 bits wide and wraps there.
+  std::uint64_t expected = 0;
+  const std::string longKey(40, 'z');
+  for (char c : longKey) expected = expected * 33 + static_cast<unsigned char>(c);
+  EXPECT_EQ(CStringTraits::Hash(longKey), expected);
+  EXPECT_GT(expected, 0xFFFFFFFFull);
+  // Up to the terminator.
+  EXPECT_EQ(CStringTraits::Hash(std::string_view("ab\0c", 4)), CStringTraits::Hash("ab"));
+}
+
+TEST(TStrHash, KeysDifferingInCaseAreTwoEntries) {
+  TStrHash<int> map;
+  map.SetAt("Trend", 1);
+  map.SetAt("trend", 2);
+  EXPECT_EQ(map.GetCount(), 2u);
+  ASSERT_NE(map.Find("Trend"), nullptr);
+  EXPECT_EQ(*map.Find("Trend"), 1);
+  EXPECT_EQ(*map.Find("trend"), 2);
+  EXPECT_EQ(map.Find("TREND"), nullptr);
+}
+
+TEST(TStrHash, SetAtReplacesLookupLeavesOutputWhenAbsent) {
+  TStrHash<std::string> map;
+  map.SetAt("Fib", "one");
+  map.SetAt(std::string_view("Fib"), "two");
+  EXPECT_EQ(map.GetCount(), 1u);
+  std::string out = "kept";
+  EXPECT_FALSE(map.Lookup("Gann", out));
+  EXPECT_EQ(out, "kept");
+  EXPECT_TRUE(map.Lookup("Fib", out));
+  EXPECT_EQ(out, "two");
+  EXPECT_TRUE(map.RemoveKey("Fib"));
+  EXPECT_FALSE(map.RemoveKey("Fib"));
+  EXPECT_TRUE(map.IsEmpty());
+}
+
+TEST(TStrHash, KeyEndsAtItsFirstNul) {
+  TStrHash<int> map;
+  map.SetAt(std::string_view("ab\0c", 4), 5);
+  ASSERT_NE(map.Find("ab"), nullptr);
+  EXPECT_EQ(*map.Find("ab"), 5);
+}
+
+TEST(TStrHash, NullKeyIsAFatalError) {
+  TStrHash<int> map;
+  const char* none = nullptr;
+  try {
+    map.SetAt(none, 1);
+    FAIL() << "a null key was accepted";
+  } catch (const XmlComError& error) {
+    EXPECT_EQ(static_cast<std::uint32_t>(error.status()), 0x80004005u);
+  }
+  EXPECT_THROW(map.Find(none), XmlComError);
+  int out = 0;
+  EXPECT_THROW(map.Lookup(none, out), XmlComError);
+  EXPECT_THROW(map.RemoveKey(none), XmlComError);
+  EXPECT_TRUE(map.IsEmpty());
+}
+
+TEST(TStrHash, DestroysThroughItsBase) {
+  static_assert(std::has_virtual_destructor_v<THashX<CString, int, CStringTraits>>);
+  // The destructor is the only virtual: one vtable pointer over the map.
+  static_assert(sizeof(TStrHash<int>) == sizeof(void*) + sizeof(THashX<CString, int, CStringTraits>::Map));
+  std::unique_ptr<THashX<CString, int, CStringTraits>> base = std::make_unique<TStrHash<int>>();
+  EXPECT_TRUE(base->IsEmpty());
+}
+
+}  // namespace

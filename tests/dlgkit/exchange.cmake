@@ -1,0 +1,7 @@
+# Tests of data exchange, the controls seam, page driving, the settings store and the clock.
+list(APPEND ORV_DLGKIT_TEST_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/DataExchangeTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/StrHashTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/HeadlessRunnerTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SettingsStoreTest.cpp
+)
