@@ -18,7 +18,7 @@ shift 2
 cmake --preset native-fuzz >/dev/null
 if ! cmake --build --preset native-fuzz -j "${ORV_JOBS:-2}" --target "$target"; then
   echo "fuzz.sh: cannot build '$target'; fuzz targets are:" >&2
-  ls "$root/tests/fuzz/corpus" 2>/dev/null >&2 || true
+  ctest --test-dir build/native-fuzz -N 2>/dev/null | sed -n 's/.*Test *#[0-9]*: \(.*\)_smoke$/  \1/p' >&2
   exit 1
 fi
 exe=$(find build/native-fuzz -type f -name "$target" -perm -u+x | head -n1)
