@@ -27,7 +27,7 @@ std::string_view TrimSeparators(std::string_view path) {
 
 bool MustEscape(unsigned char c, bool inValue) {
   if (c < 0x20 || c == 0x7F || c == '%') return true;
-  return !inValue && (c == '=' || c == '[' || c == ']' || c == ';');
+  return !inValue && (c == '=' || c == '[' || c == ']' || c == ';' || c == '#');
 }
 
 std::string Escape(std::string_view text, bool inValue) {
@@ -117,11 +117,13 @@ std::optional<std::uint32_t> MemorySettingsStore::ReadDword(std::string_view key
 }
 
 bool MemorySettingsStore::WriteString(std::string_view keyPath, std::string_view name, std::string_view value) {
+  if (TrimSeparators(keyPath).empty()) return false;
   Put(keyPath, name, Value{false, std::string(UpToNul(value)), 0});
   return true;
 }
 
 bool MemorySettingsStore::WriteDword(std::string_view keyPath, std::string_view name, std::uint32_t value) {
+  if (TrimSeparators(keyPath).empty()) return false;
   Put(keyPath, name, Value{true, {}, value});
   return true;
 }
@@ -225,14 +227,12 @@ std::optional<std::uint32_t> FileSettingsStore::ReadDword(std::string_view keyPa
 
 bool FileSettingsStore::WriteString(std::string_view keyPath, std::string_view name, std::string_view value) {
   MemorySettingsStore store = Load();
-  store.WriteString(keyPath, name, value);
-  return Save(store);
+  return store.WriteString(keyPath, name, value) && Save(store);
 }
 
 bool FileSettingsStore::WriteDword(std::string_view keyPath, std::string_view name, std::uint32_t value) {
   MemorySettingsStore store = Load();
-  store.WriteDword(keyPath, name, value);
-  return Save(store);
+  return store.WriteDword(keyPath, name, value) && Save(store);
 }
 
 bool FileSettingsStore::DeleteValue(std::string_view keyPath, std::string_view name) {

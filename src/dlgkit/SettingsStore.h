@@ -3,8 +3,9 @@
 // a file in the user's configuration folder natively, memory in tests.
 //
 // A key path is relative to the user's root, its parts separated by '\\'
-// ("Software\\Orv\\Seasonal"); the name "" is the key's default value. Key paths and names
-// compare case-insensitively (ASCII), as the registry's do.
+// ("Software\\Orv\\Seasonal"; separators at either end don't count); the name "" is the key's
+// default value. An empty key path is refused: nothing is read from or written to the root.
+// Key paths and names compare case-insensitively (ASCII), as the registry's do.
 // Absent is not an error: a missing key or value, or a value of another type than asked
 // (a DWORD read as a string, a REG_EXPAND_SZ, a binary value ...), reads as std::nullopt.
 // Texts end at their first NUL, as the registry's strings do for their readers.
@@ -71,7 +72,7 @@ class MemorySettingsStore : public SettingsStore {
 //   History1=s:Corn
 //   Count=d:5
 // '%' followed by two hex digits stands for a byte (control characters, '%', and in key paths and
-// names also '=', '[', ']', ';'). Lines starting with ';' or '#' are comments. A malformed line
+// names also '=', '[', ']', ';', '#'). Lines starting with ';' or '#' are comments. A malformed line
 // is ignored and so are the values under a malformed header; everything else still reads. A line
 // that couldn't be read is not written back. Only the first 4 MiB of the file are read.
 class FileSettingsStore final : public SettingsStore {

@@ -8,40 +8,14 @@
 
 #include "dlgkit/Clock.h"
 #include "dlgkit/SettingsStore.h"
+#include "SettingsStoreRules.h"
 
 namespace {
 
 using orv::FileSettingsStore;
+using orv::test::ExpectStoreRules;
+using orv::test::kKey;
 using orv::MemorySettingsStore;
-
-constexpr const char* kKey = "Software\\Orv\\Seasonal";
-
-// The rules every store keeps, run on the memory store and on the file store.
-void ExpectStoreRules(orv::SettingsStore& store) {
-  EXPECT_FALSE(store.ReadString(kKey, "History1"));
-  EXPECT_FALSE(store.ReadDword("Software\\Nobody", "X"));
-  ASSERT_TRUE(store.WriteString(kKey, "History1", "Corn \"Dec\" = 5%; [x]\r\nline2\ttab"));
-  ASSERT_TRUE(store.WriteDword(kKey, "Count", 4294967295u));
-  EXPECT_EQ(store.ReadString(kKey, "History1"), "Corn \"Dec\" = 5%; [x]\r\nline2\ttab");
-  EXPECT_EQ(store.ReadDword(kKey, "Count"), 4294967295u);
-  // Another type than asked is absent.
-  EXPECT_FALSE(store.ReadDword(kKey, "History1"));
-  EXPECT_FALSE(store.ReadString(kKey, "Count"));
-  // Names and key paths compare as the registry's do.
-  EXPECT_EQ(store.ReadDword("software\\ORV\\seasonal\\", "COUNT"), 4294967295u);
-  ASSERT_TRUE(store.WriteDword(kKey, "count", 3));
-  EXPECT_EQ(store.ReadDword(kKey, "Count"), 3u);
-  // A name with the format's own characters.
-  ASSERT_TRUE(store.WriteString(kKey, "a=b[c];%", ""));
-  EXPECT_EQ(store.ReadString(kKey, "a=b[c];%"), "");
-  // Texts end at their first NUL.
-  ASSERT_TRUE(store.WriteString(kKey, "Nul", std::string_view("ab\0cd", 5)));
-  EXPECT_EQ(store.ReadString(kKey, "Nul"), "ab");
-  EXPECT_TRUE(store.DeleteValue(kKey, "COUNT"));
-  EXPECT_FALSE(store.DeleteValue(kKey, "Count"));
-  EXPECT_FALSE(store.ReadDword(kKey, "Count"));
-  EXPECT_EQ(store.ReadString(kKey, "History1"), "Corn \"Dec\" = 5%; [x]\r\nline2\ttab");
-}
 
 TEST(SettingsStore, MemoryStoreKeepsTheRules) {
   MemorySettingsStore store;

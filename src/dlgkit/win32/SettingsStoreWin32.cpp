@@ -9,6 +9,14 @@ namespace orv {
 
 namespace {
 
+// "\\Software\\Orv\\" and "Software\\Orv" are one key, as in the other stores.
+std::string PathZ(std::string_view path) {
+  path = path.substr(0, path.find('\0'));
+  while (!path.empty() && path.front() == '\\') path.remove_prefix(1);
+  while (!path.empty() && path.back() == '\\') path.remove_suffix(1);
+  return std::string(path);
+}
+
 // An open registry key, closed when it goes.
 class RegistryKey {
  public:
@@ -19,11 +27,13 @@ class RegistryKey {
     if (key_) ::RegCloseKey(key_);
   }
   bool Open(std::string_view path, REGSAM access) {
-    const std::string pathZ(path.substr(0, path.find('\0')));
+    const std::string pathZ = PathZ(path);
+    if (pathZ.empty()) return false;  // never the root of the user's hive
     return ::RegOpenKeyExA(HKEY_CURRENT_USER, pathZ.c_str(), 0, access, &key_) == ERROR_SUCCESS;
   }
   bool Create(std::string_view path, REGSAM access) {
-    const std::string pathZ(path.substr(0, path.find('\0')));
+    const std::string pathZ = PathZ(path);
+    if (pathZ.empty()) return false;
     return ::RegCreateKeyExA(HKEY_CURRENT_USER, pathZ.c_str(), 0, nullptr, 0, access, nullptr, &key_, nullptr) ==
            ERROR_SUCCESS;
   }
