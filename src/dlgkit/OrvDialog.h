@@ -115,10 +115,10 @@ class COrvDialog {
       }
       case orv::kWmCtlColorDlg:
       case orv::kWmCtlColorStatic:
-        return AnswerColor(dc, m_backgroundBrush, result);
+        return AnswerColor(dc, m_backgroundBrush, m_colors[0], result);
       case orv::kWmCtlColorEdit:
       case orv::kWmCtlColorListBox:
-        return AnswerColor(dc, m_fieldBrush, result);
+        return AnswerColor(dc, m_fieldBrush, m_colors[4], result);
       default:
         return false;
     }
@@ -157,7 +157,8 @@ class COrvDialog {
   std::vector<orv::WindowHandle> m_themeTargets;
 
  private:
-  bool AnswerColor(orv::DeviceContext dc, const orv::Brush& brush, std::intptr_t& result) {
+  bool AnswerColor(orv::DeviceContext dc, const orv::Brush& brush, std::uint32_t brushColor,
+                   std::intptr_t& result) {
     if (!m_hookCalled) {
       m_hookCalled = true;
       OnFirstColor();
@@ -168,6 +169,8 @@ class COrvDialog {
     }
     m_ops->SetBkMode(dc, orv::kBkModeTransparent);
     m_ops->SetTextColor(dc, m_colors[3]);
+    // Controls that draw their text opaque (list items, a combo's field) take the brush's colour.
+    m_ops->SetBkColor(dc, brushColor);
     result = reinterpret_cast<std::intptr_t>(brush.get());
     return true;
   }

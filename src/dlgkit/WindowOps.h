@@ -77,6 +77,7 @@ class WindowOps {
   virtual int FillRect(DeviceContext dc, const WindowRect& rect, BrushHandle brush) = 0;
   virtual int SetBkMode(DeviceContext dc, int mode) = 0;
   virtual std::uint32_t SetTextColor(DeviceContext dc, std::uint32_t color) = 0;
+  virtual std::uint32_t SetBkColor(DeviceContext dc, std::uint32_t color) = 0;
   // LOGPIXELSY of a "DISPLAY" device context (CreateDCA, GetDeviceCaps, DeleteDC); needs no window.
   virtual int GetDisplayLogPixelsY() = 0;
 

@@ -314,10 +314,12 @@ TEST_F(OrvDialogTest, ThemeMessagesWithTheme) {
   EXPECT_EQ(result, reinterpret_cast<std::intptr_t>(dialog.GetBackgroundBrush()));
   EXPECT_EQ(tree.Dc(dc).bkMode, orv::kBkModeTransparent);
   EXPECT_EQ(tree.Dc(dc).textColor, theme[3]);
+  EXPECT_EQ(tree.Dc(dc).bkColor, theme[0]);
   ASSERT_TRUE(dialog.ProcessThemeMessage(dlg, orv::kWmCtlColorDlg, 0x60, 0, result));
   EXPECT_EQ(result, reinterpret_cast<std::intptr_t>(dialog.GetBackgroundBrush()));
   ASSERT_TRUE(dialog.ProcessThemeMessage(dlg, orv::kWmCtlColorEdit, 0x60, 0, result));
   EXPECT_EQ(result, reinterpret_cast<std::intptr_t>(dialog.GetFieldBrush()));
+  EXPECT_EQ(tree.Dc(dc).bkColor, theme[4]);
   ASSERT_TRUE(dialog.ProcessThemeMessage(dlg, orv::kWmCtlColorListBox, 0x60, 0, result));
   EXPECT_EQ(result, reinterpret_cast<std::intptr_t>(dialog.GetFieldBrush()));
   EXPECT_EQ(dialog.firstColorCalls, 1);

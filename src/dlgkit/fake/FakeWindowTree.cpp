@@ -259,6 +259,10 @@ std::uint32_t FakeWindowTree::SetTextColor(DeviceContext dc, std::uint32_t color
   return std::exchange(dcs_[dc].textColor, color);
 }
 
+std::uint32_t FakeWindowTree::SetBkColor(DeviceContext dc, std::uint32_t color) {
+  return std::exchange(dcs_[dc].bkColor, color);
+}
+
 int FakeWindowTree::GetDisplayLogPixelsY() {
   ++displayQueries_;
   return dpi_;

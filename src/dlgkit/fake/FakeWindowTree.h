@@ -37,6 +37,7 @@ class FakeWindowTree final : public WindowOps {
   struct DcState {
     int bkMode = 0;
     std::uint32_t textColor = 0;
+    std::uint32_t bkColor = 0;
     std::vector<std::pair<WindowRect, BrushHandle>> fills;
   };
   // Answers a message sent to one window; nullopt lets the tree answer (0 by default).
@@ -92,6 +93,7 @@ class FakeWindowTree final : public WindowOps {
   int FillRect(DeviceContext dc, const WindowRect& rect, BrushHandle brush) override;
   int SetBkMode(DeviceContext dc, int mode) override;
   std::uint32_t SetTextColor(DeviceContext dc, std::uint32_t color) override;
+  std::uint32_t SetBkColor(DeviceContext dc, std::uint32_t color) override;
   int GetDisplayLogPixelsY() override;
   bool SubclassWindow(WindowHandle window, COrvThemedControl& control) override;
   void UnsubclassWindow(WindowHandle window, COrvThemedControl& control) override;

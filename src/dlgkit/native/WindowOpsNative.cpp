@@ -27,6 +27,7 @@ class HeadlessWindowOps final : public WindowOps {
   int FillRect(DeviceContext, const WindowRect&, BrushHandle) override { return 0; }
   int SetBkMode(DeviceContext, int) override { return 0; }
   std::uint32_t SetTextColor(DeviceContext, std::uint32_t) override { return 0; }
+  std::uint32_t SetBkColor(DeviceContext, std::uint32_t) override { return 0; }
   int GetDisplayLogPixelsY() override { return 96; }
   bool SubclassWindow(WindowHandle, COrvThemedControl&) override { return false; }
   void UnsubclassWindow(WindowHandle, COrvThemedControl&) override {}

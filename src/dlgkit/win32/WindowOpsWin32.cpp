@@ -62,6 +62,9 @@ class Win32WindowOps final : public WindowOps {
   std::uint32_t SetTextColor(DeviceContext dc, std::uint32_t color) override {
     return ::SetTextColor(D(dc), color);
   }
+  std::uint32_t SetBkColor(DeviceContext dc, std::uint32_t color) override {
+    return ::SetBkColor(D(dc), color);
+  }
   int GetDisplayLogPixelsY() override {
     HDC dc = ::CreateDCA("DISPLAY", nullptr, nullptr, nullptr);
     if (!dc) return 96;
