@@ -78,7 +78,7 @@ TEST(DataExchangeWin32, MovesValuesBothWaysThroughRealControls) {
     EXPECT_TRUE(p.DDX_Float(kEdit, &real, false, false, 0, 0, 15));
     EXPECT_EQ(p.Text(kEdit), "2.5");
     p.DDX_Check(kCheck, &flag, false);
-    EXPECT_EQ(::IsDlgButtonChecked(p.window_, kCheck), BST_CHECKED);
+    EXPECT_EQ(::IsDlgButtonChecked(p.window_, kCheck), static_cast<UINT>(BST_CHECKED));
     EXPECT_TRUE(p.DDX_ComboData(kCombo, &data, false));
     EXPECT_EQ(::SendDlgItemMessageA(p.window_, kCombo, CB_GETCURSEL, 0, 0), 1);
 
