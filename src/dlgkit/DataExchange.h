@@ -12,11 +12,11 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
 #include <string>
 
 #include "dlgkit/Controls.h"
 #include "dlgkit/FloatParse.h"
+#include "xml/StrFormat.h"
 
 // The error record handed to OnDataValidateError.
 struct CDataValidateError {
@@ -27,18 +27,6 @@ struct CDataValidateError {
   struct { double nVal = 0, nMin = 0, nMax = 0; } floatData;
 };
 
-namespace orv::detail {
-// printf into a std::string of any length (the texts here are short, but never a fixed buffer).
-template <class... Args>
-std::string FormatExchangeText(const char* format, Args... args) {
-  const int length = std::snprintf(nullptr, 0, format, args...);
-  if (length <= 0) return {};
-  std::string text(static_cast<std::size_t>(length) + 1, '\0');
-  std::snprintf(text.data(), text.size(), format, args...);
-  text.resize(static_cast<std::size_t>(length));
-  return text;
-}
-}  // namespace orv::detail
 
 template <class T>
 class CWinDataExchangeZel {
@@ -84,9 +72,9 @@ class CWinDataExchangeZel {
   bool DDX_Float(int id, double* value, bool save, bool validate = false, double min = 0.0, double max = 0.0,
                  int precision = 15) {
     if (!save) {
-      char buffer[kFloatBuffer];
-      std::snprintf(buffer, sizeof buffer, "%.*g", std::clamp(precision, 0, kMaxFloatPrecision), *value);
-      if (ExchangeControls().SetDlgItemTextA(id, buffer)) return true;
+      std::string text = orv::StrFormat("%.*g", std::clamp(precision, 0, kMaxFloatPrecision), *value);
+      if (text.size() >= kFloatBuffer) text.resize(kFloatBuffer - 1);  // the field's 32-character buffer
+      if (ExchangeControls().SetDlgItemTextA(id, text)) return true;
       Derived().OnDataExchangeError(id, save);
       return false;
     }
@@ -163,10 +151,10 @@ class CWinDataExchangeZel {
   static std::string DataValidateErrorText(const CDataValidateError& error) {
     switch (error.nDataType) {
       case CDataValidateError::kInt:
-        return orv::detail::FormatExchangeText("%d out of range: [%d,%d]", error.intData.nVal, error.intData.nMin,
+        return orv::StrFormat("%d out of range: [%d,%d]", error.intData.nVal, error.intData.nMin,
                                                error.intData.nMax);
       case CDataValidateError::kDouble:
-        return orv::detail::FormatExchangeText("%g out of range: [%g,%g]", error.floatData.nVal,
+        return orv::StrFormat("%g out of range: [%g,%g]", error.floatData.nVal,
                                                error.floatData.nMin, error.floatData.nMax);
       default:
         return {};

@@ -1,10 +1,9 @@
 #include "xml/XmlError.h"
 
-#include <cstdio>
+#include "xml/StrFormat.h"
 
 XmlComError::XmlComError(orv::Status status, std::string context)
     : status_(status), context_(std::move(context)) {
-  char text[32];
-  std::snprintf(text, sizeof text, "status 0x%08X", static_cast<unsigned>(status));
-  message_ = context_.empty() ? text : std::string(text) + " in " + context_;
+  message_ = orv::StrFormat("status 0x%08X", static_cast<unsigned>(status));
+  if (!context_.empty()) message_ += " in " + context_;
 }

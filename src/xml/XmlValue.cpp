@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <limits>
 
+#include "xml/StrFormat.h"
 #include "xml/Xml.h"
 
 namespace {
@@ -93,24 +94,19 @@ bool ParseBits(std::string_view text, std::uint32_t& bits) {
   return end == copy.c_str() + copy.size() && end != copy.c_str() && fits;
 }
 
-std::string Format(const char* format, auto... args) {
-  char text[48];
-  const int length = std::snprintf(text, sizeof text, format, args...);
-  return std::string(text, static_cast<std::size_t>(length));
-}
 
 std::string FormatBits(std::uint32_t bits, XmlValueKind kind, bool isSigned) {
   switch (kind) {
     case XmlValueKind::Hex:
-      return Format("0x%08X", static_cast<unsigned>(bits));
+      return orv::StrFormat("0x%08X", static_cast<unsigned>(bits));
     case XmlValueKind::Color:
-      return Format("RGB(%d,%d,%d)", static_cast<int>(bits & 0xFF), static_cast<int>((bits >> 8) & 0xFF),
+      return orv::StrFormat("RGB(%d,%d,%d)", static_cast<int>(bits & 0xFF), static_cast<int>((bits >> 8) & 0xFF),
                     static_cast<int>((bits >> 16) & 0xFF));
     case XmlValueKind::Bool:
       return bits != 0 ? "TRUE" : "FALSE";
     default:
-      return isSigned ? Format("%d", static_cast<int>(static_cast<std::int32_t>(bits)))
-                      : Format("%u", static_cast<unsigned>(bits));
+      return isSigned ? orv::StrFormat("%d", static_cast<int>(static_cast<std::int32_t>(bits)))
+                      : orv::StrFormat("%u", static_cast<unsigned>(bits));
   }
 }
 
