@@ -54,17 +54,12 @@ bool CDemoDlg::OnAnyMessage(unsigned message, std::uintptr_t wParam, std::intptr
         result = 0;
         return true;
     }
-    // The dialog's own painting in the theme; everything else goes to the typed handlers.
-    return window_ && ProcessThemeMessage(window_, message, wParam, lParam, result);
+    return ThemedPage::OnAnyMessage(message, wParam, lParam, result);
 }
 
-bool CDemoDlg::OnInitDialog(Controls& controls, WindowHandle window, WindowOps* windowOps)
+bool CDemoDlg::OnInitPage()
 {
-    controls_ = &controls;
-    window_ = static_cast<HWND>(window);
-    AttachWindow(windowOps ? *windowOps : DefaultWindowOps(), window);
-    SubclassControls();
-    LoadTheme();
+    Controls& controls = Ctl();
 
     for (const Item& item : kPriceFields)
         controls.ComboAddString(IDC_FIELD, item.text, item.data);
@@ -74,7 +69,7 @@ bool CDemoDlg::OnInitDialog(Controls& controls, WindowHandle window, WindowOps* 
     DoDataExchange(false);
 
     if (!screenshotPath_.empty())
-        PostMessageW(window_, WM_DEMO_SCREENSHOT, 0, 0);
+        PostMessageW(static_cast<HWND>(Window()), WM_DEMO_SCREENSHOT, 0, 0);
     return true;
 }
 
@@ -120,10 +115,11 @@ bool CDemoDlg::DoDataExchange(bool save)
 void CDemoDlg::TakeScreenshot()
 {
     // A modal dialog is shown only when its loop first goes idle, after this message.
-    ShowWindow(window_, SW_SHOWNORMAL);
-    SetForegroundWindow(window_);
-    screenshotResult_ = apps::CaptureWindowToPng(window_, screenshotPath_);
-    EndDialog(window_, FAILED(screenshotResult_) ? IDABORT : IDOK);
+    const HWND window = static_cast<HWND>(Window());
+    ShowWindow(window, SW_SHOWNORMAL);
+    SetForegroundWindow(window);
+    screenshotResult_ = apps::CaptureWindowToPng(window, screenshotPath_);
+    EndDialog(window, FAILED(screenshotResult_) ? IDABORT : IDOK);
 }
 
 } // namespace orv::demo

@@ -2,10 +2,7 @@
 // exchange, as every page of the component is.
 #pragma once
 
-#include "dlgkit/Controls.h"
-#include "dlgkit/DataExchange.h"
-#include "dlgkit/OrvDialog.h"
-#include "dlgkit/Page.h"
+#include "dlgkit/ThemedPage.h"
 
 #include <windows.h>
 
@@ -26,7 +23,7 @@ struct StudySettings {
 // One line describing the settings, as the demo prints them after OK.
 std::string Describe(const StudySettings& settings);
 
-class CDemoDlg : public Page, public COrvDialog<CDemoDlg>, public CWinDataExchangeZel<CDemoDlg> {
+class CDemoDlg : public ThemedPage<CDemoDlg> {
 public:
     // With a file name, the dialog writes itself there as a PNG once shown, then closes.
     explicit CDemoDlg(std::wstring screenshotPath = {});
@@ -34,11 +31,10 @@ public:
     int DialogId() const override;
     bool OnAnyMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                       std::intptr_t& result) override;
-    bool OnInitDialog(Controls& controls, WindowHandle window, WindowOps* windowOps) override;
+    bool OnInitPage() override;
     bool OnKillActive() override;
     void OnCommand(int id, int code) override;
 
-    Controls& Ctl() { return *controls_; }
     const StudySettings& Settings() const { return settings_; }
     HRESULT ScreenshotResult() const { return screenshotResult_; }
 
@@ -47,8 +43,6 @@ private:
     void TakeScreenshot();
 
     StudySettings settings_;
-    Controls* controls_ = nullptr; // the dialog host's, valid while the window lives
-    HWND window_ = nullptr;
     std::wstring screenshotPath_;
     HRESULT screenshotResult_ = S_OK;
 };

@@ -92,6 +92,13 @@ class Page {
   virtual bool OnNotify(int id, int code, const void* payload, std::intptr_t& result) { return false; }
   // WM_HELP / PSN_HELP. Dialogs answer with ShowHelp("CHARTX", DialogId()). True when handled.
   virtual bool OnHelp() { return false; }
+  // Offered what the typed operations above left unhandled, and every WM_COMMAND after
+  // OnCommand: this is where notifications are reflected to the owner-drawn controls that sent
+  // them, after the page had its say. Return true and set `result` to answer it.
+  virtual bool OnUnhandledMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                                  std::intptr_t& result) {
+    return false;
+  }
 };
 
 }  // namespace orv

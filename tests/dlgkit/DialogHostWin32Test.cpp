@@ -56,6 +56,19 @@ class ScriptedPage : public orv::Page {
     log.push_back("command " + std::to_string(id));
     ++commands;
   }
+  bool OnNotify(int id, int code, const void*, std::intptr_t& result) override {
+    if (code != kHandledCode) return false;
+    log.push_back("notify " + std::to_string(id));
+    result = 5;
+    return true;
+  }
+  bool OnUnhandledMessage(unsigned message, std::uintptr_t wParam, std::intptr_t, std::intptr_t& result) override {
+    if (message != WM_COMMAND && message != WM_NOTIFY && message != WM_DRAWITEM) return false;
+    log.push_back("unhandled " + std::to_string(message));
+    result = 9;
+    return true;
+  }
+  static constexpr UINT kHandledCode = 0xFFFFF000;
 
   HWND window = nullptr;
   std::vector<std::string> log;
@@ -131,6 +144,28 @@ TEST(DialogHost, AnswersWithThePlatformsPolarity) {
     ::EndDialog(window, 77);
   };
   EXPECT_EQ(orv::RunPageDialogIndirect(page, orv::test::AsTemplate(dialogTemplate), nullptr), 77);
+}
+
+TEST(DialogHost, WhatThePageLeavesGoesToTheUnhandledHookAfterItsOwnHandlers) {
+  const auto dialogTemplate = SimpleTemplate();
+  ScriptedPage page;
+  page.scenario = [&](HWND window) {
+    const HWND ok = ::GetDlgItem(window, IDOK);
+    NMHDR header{ok, IDOK, ScriptedPage::kHandledCode};
+    EXPECT_EQ(::SendMessageA(window, WM_NOTIFY, IDOK, reinterpret_cast<LPARAM>(&header)), 5);
+    header.code = NM_CLICK;
+    EXPECT_EQ(::SendMessageA(window, WM_NOTIFY, IDOK, reinterpret_cast<LPARAM>(&header)), 9);
+    DRAWITEMSTRUCT draw{};
+    draw.CtlType = ODT_BUTTON;
+    draw.CtlID = IDOK;
+    draw.hwndItem = ok;
+    EXPECT_EQ(::SendMessageA(window, WM_DRAWITEM, IDOK, reinterpret_cast<LPARAM>(&draw)), 9);
+    ::SendMessageA(window, WM_COMMAND, MAKEWPARAM(42, EN_CHANGE), reinterpret_cast<LPARAM>(ok));
+    ::EndDialog(window, 3);
+  };
+  EXPECT_EQ(orv::RunPageDialogIndirect(page, orv::test::AsTemplate(dialogTemplate), nullptr), 3);
+  EXPECT_EQ(page.log, (std::vector<std::string>{"init", "set", "notify 1", "unhandled 78", "unhandled 43",
+                                                "command 42", "unhandled 273"}));
 }
 
 TEST(DialogHost, ExceptionInInitEndsTheRunAndIsRethrown) {

@@ -106,20 +106,31 @@ INT_PTR DialogHost::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     case WM_COMMAND:
       HandleCommand(LOWORD(wParam), HIWORD(wParam));
+      // A command that a control sent is offered for reflection too (an owner-drawn control
+      // may want its own clicks); the dialog has handled the command either way.
+      if (window_ && lParam) page_.OnUnhandledMessage(message, wParam, lParam, result);
       return TRUE;
     case WM_NOTIFY: {
       const auto* header = reinterpret_cast<const NMHDR*>(lParam);
       if (!header) return FALSE;
       LRESULT answer = 0;
-      if (!HandleNotify(*header, lParam, answer)) return FALSE;
+      if (!HandleNotify(*header, lParam, answer)) return Unhandled(message, wParam, lParam);
       ::SetWindowLongPtrA(window_, DWLP_MSGRESULT, static_cast<LONG_PTR>(answer));
       return TRUE;
     }
     case WM_HELP:
       return page_.OnHelp() ? TRUE : FALSE;
     default:
-      return FALSE;
+      return Unhandled(message, wParam, lParam);
   }
+}
+
+INT_PTR DialogHost::Unhandled(UINT message, WPARAM wParam, LPARAM lParam) {
+  std::intptr_t result = 0;
+  if (!page_.OnUnhandledMessage(message, wParam, lParam, result)) return FALSE;
+  if (AnswersDirectly(message)) return static_cast<INT_PTR>(result);
+  ::SetWindowLongPtrA(window_, DWLP_MSGRESULT, static_cast<LONG_PTR>(result));
+  return TRUE;
 }
 
 void DialogHost::HandleCommand(int id, int code) {

@@ -42,6 +42,8 @@ class DialogHost {
  private:
   static INT_PTR Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam, DialogHost* attaching);
   INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+  // Offers what the typed handlers left to the page's OnUnhandledMessage (reflection).
+  INT_PTR Unhandled(UINT message, WPARAM wParam, LPARAM lParam);
   bool HandleNotify(const NMHDR& header, LPARAM lParam, LRESULT& result);
   void HandleCommand(int id, int code);
 
