@@ -233,116 +233,94 @@ bool FakeControls::MoveDlgItemTo(int id, int placeId) {
   return true;
 }
 
-bool FakeControls::ComboResetContent(int id) {
-  FakeControl* control = FindKind(id, FakeControlKind::ComboBox);
+// Combo boxes and list boxes keep their items alike; only the kind of control differs.
+bool FakeControls::ResetItems(int id, FakeControlKind kind) {
+  FakeControl* control = FindKind(id, kind);
   if (!control) return false;
   control->items.clear();
   control->curSel = -1;
   return true;
 }
 
+int FakeControls::AddItem(int id, FakeControlKind kind, std::string_view text, std::intptr_t itemData) {
+  auto* items = Items(id, kind);
+  if (!items) return -1;
+  items->push_back({std::string(text), itemData});
+  return static_cast<int>(items->size()) - 1;
+}
+
+int FakeControls::ItemCount(int id, FakeControlKind kind) {
+  auto* items = Items(id, kind);
+  return items ? static_cast<int>(items->size()) : -1;
+}
+
+int FakeControls::CurSel(int id, FakeControlKind kind) {
+  FakeControl* control = FindKind(id, kind);
+  return control ? control->curSel : -1;
+}
+
+bool FakeControls::SetCurSel(int id, FakeControlKind kind, int index) {
+  FakeControl* control = FindKind(id, kind);
+  if (!control) return false;
+  if (index == -1) {
+    control->curSel = -1;
+    return true;
+  }
+  if (!ValidIndex(index, control->items.size())) return false;
+  control->curSel = index;
+  return true;
+}
+
+const FakeListItem* FakeControls::Item(int id, FakeControlKind kind, int index) {
+  auto* items = Items(id, kind);
+  return items && ValidIndex(index, items->size()) ? &(*items)[static_cast<std::size_t>(index)] : nullptr;
+}
+
+int FakeControls::FindItemData(int id, FakeControlKind kind, std::intptr_t itemData) {
+  auto* items = Items(id, kind);
+  if (!items) return -1;
+  for (std::size_t i = 0; i < items->size(); ++i) {
+    if ((*items)[i].data == itemData) return static_cast<int>(i);
+  }
+  return -1;
+}
+
+bool FakeControls::ComboResetContent(int id) { return ResetItems(id, FakeControlKind::ComboBox); }
 int FakeControls::ComboAddString(int id, std::string_view text, std::intptr_t itemData) {
-  auto* items = Items(id, FakeControlKind::ComboBox);
-  if (!items) return -1;
-  items->push_back({std::string(text), itemData});
-  return static_cast<int>(items->size()) - 1;
+  return AddItem(id, FakeControlKind::ComboBox, text, itemData);
 }
-
-int FakeControls::ComboGetCount(int id) {
-  auto* items = Items(id, FakeControlKind::ComboBox);
-  return items ? static_cast<int>(items->size()) : -1;
-}
-
-int FakeControls::ComboGetCurSel(int id) {
-  FakeControl* control = FindKind(id, FakeControlKind::ComboBox);
-  return control ? control->curSel : -1;
-}
-
-bool FakeControls::ComboSetCurSel(int id, int index) {
-  FakeControl* control = FindKind(id, FakeControlKind::ComboBox);
-  if (!control) return false;
-  if (index == -1) {
-    control->curSel = -1;
-    return true;
-  }
-  if (!ValidIndex(index, control->items.size())) return false;
-  control->curSel = index;
-  return true;
-}
-
+int FakeControls::ComboGetCount(int id) { return ItemCount(id, FakeControlKind::ComboBox); }
+int FakeControls::ComboGetCurSel(int id) { return CurSel(id, FakeControlKind::ComboBox); }
+bool FakeControls::ComboSetCurSel(int id, int index) { return SetCurSel(id, FakeControlKind::ComboBox, index); }
 std::intptr_t FakeControls::ComboGetItemData(int id, int index) {
-  auto* items = Items(id, FakeControlKind::ComboBox);
-  return items && ValidIndex(index, items->size()) ? (*items)[static_cast<std::size_t>(index)].data : 0;
+  const FakeListItem* item = Item(id, FakeControlKind::ComboBox, index);
+  return item ? item->data : 0;
 }
-
 std::string FakeControls::ComboGetLBText(int id, int index) {
-  auto* items = Items(id, FakeControlKind::ComboBox);
-  return items && ValidIndex(index, items->size()) ? (*items)[static_cast<std::size_t>(index)].text : std::string();
+  const FakeListItem* item = Item(id, FakeControlKind::ComboBox, index);
+  return item ? item->text : std::string();
 }
-
 int FakeControls::ComboFindItemData(int id, std::intptr_t itemData) {
-  auto* items = Items(id, FakeControlKind::ComboBox);
-  if (!items) return -1;
-  for (std::size_t i = 0; i < items->size(); ++i) {
-    if ((*items)[i].data == itemData) return static_cast<int>(i);
-  }
-  return -1;
+  return FindItemData(id, FakeControlKind::ComboBox, itemData);
 }
 
-bool FakeControls::ListResetContent(int id) {
-  FakeControl* control = FindKind(id, FakeControlKind::ListBox);
-  if (!control) return false;
-  control->items.clear();
-  control->curSel = -1;
-  return true;
-}
-
+bool FakeControls::ListResetContent(int id) { return ResetItems(id, FakeControlKind::ListBox); }
 int FakeControls::ListAddString(int id, std::string_view text, std::intptr_t itemData) {
-  auto* items = Items(id, FakeControlKind::ListBox);
-  if (!items) return -1;
-  items->push_back({std::string(text), itemData});
-  return static_cast<int>(items->size()) - 1;
+  return AddItem(id, FakeControlKind::ListBox, text, itemData);
 }
-
-int FakeControls::ListGetCount(int id) {
-  auto* items = Items(id, FakeControlKind::ListBox);
-  return items ? static_cast<int>(items->size()) : -1;
-}
-
-int FakeControls::ListGetCurSel(int id) {
-  FakeControl* control = FindKind(id, FakeControlKind::ListBox);
-  return control ? control->curSel : -1;
-}
-
-bool FakeControls::ListSetCurSel(int id, int index) {
-  FakeControl* control = FindKind(id, FakeControlKind::ListBox);
-  if (!control) return false;
-  if (index == -1) {
-    control->curSel = -1;
-    return true;
-  }
-  if (!ValidIndex(index, control->items.size())) return false;
-  control->curSel = index;
-  return true;
-}
-
+int FakeControls::ListGetCount(int id) { return ItemCount(id, FakeControlKind::ListBox); }
+int FakeControls::ListGetCurSel(int id) { return CurSel(id, FakeControlKind::ListBox); }
+bool FakeControls::ListSetCurSel(int id, int index) { return SetCurSel(id, FakeControlKind::ListBox, index); }
 std::intptr_t FakeControls::ListGetItemData(int id, int index) {
-  auto* items = Items(id, FakeControlKind::ListBox);
-  return items && ValidIndex(index, items->size()) ? (*items)[static_cast<std::size_t>(index)].data : 0;
+  const FakeListItem* item = Item(id, FakeControlKind::ListBox, index);
+  return item ? item->data : 0;
 }
-
 std::string FakeControls::ListGetText(int id, int index) {
-  auto* items = Items(id, FakeControlKind::ListBox);
-  return items && ValidIndex(index, items->size()) ? (*items)[static_cast<std::size_t>(index)].text : std::string();
+  const FakeListItem* item = Item(id, FakeControlKind::ListBox, index);
+  return item ? item->text : std::string();
 }
-
 int FakeControls::ListFindItemData(int id, std::intptr_t itemData) {
-  auto* items = Items(id, FakeControlKind::ListBox);
-  if (!items) return -1;
-  for (std::size_t i = 0; i < items->size(); ++i) {
-    if ((*items)[i].data == itemData) return static_cast<int>(i);
-  }
-  return -1;
+  return FindItemData(id, FakeControlKind::ListBox, itemData);
 }
 
 bool FakeControls::ListViewInsertColumn(int id, int column, std::string_view heading, int width) {

@@ -163,6 +163,13 @@ class FakeControls final : public Controls {
   FakeControl* FindKind(int id, FakeControlKind kind);
   FakeControl& Reachable(int id, const char* action);
   std::vector<FakeListItem>* Items(int id, FakeControlKind kind);
+  bool ResetItems(int id, FakeControlKind kind);
+  int AddItem(int id, FakeControlKind kind, std::string_view text, std::intptr_t itemData);
+  int ItemCount(int id, FakeControlKind kind);
+  int CurSel(int id, FakeControlKind kind);
+  bool SetCurSel(int id, FakeControlKind kind, int index);
+  const FakeListItem* Item(int id, FakeControlKind kind, int index);
+  int FindItemData(int id, FakeControlKind kind, std::intptr_t itemData);
   void Command(int id, int code);
   void NotifyItemChanged(int id, int item, const FakeListViewRow& before, const FakeListViewRow& after);
 
