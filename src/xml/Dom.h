@@ -18,6 +18,8 @@ bool IsDocument(const NodeImpl& node);
 
 Node FirstChild(const NodeImpl& node);
 Node NextSibling(const NodeImpl& node);
+// parentNode: null for a document, an attribute, or a node outside any tree.
+Node ParentNode(const NodeImpl& node);
 // attributes + getNamedItem: null for a node without attributes or without that one.
 Node NamedAttribute(const NodeImpl& node, const char* name);
 

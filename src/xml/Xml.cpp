@@ -95,6 +95,8 @@ XmlNode XmlFirstChild(XmlNode node) { return node ? Wrap(dom::FirstChild(*node.i
 
 XmlNode XmlNextSibling(XmlNode node) { return node ? Wrap(dom::NextSibling(*node.impl())) : XmlNode(); }
 
+XmlNode XmlGetParent(XmlNode node) { return node ? Wrap(dom::ParentNode(*node.impl())) : XmlNode(); }
+
 bool XmlIsTextNode(XmlNode node) {
   if (!node) return false;
   const std::string name = dom::NodeName(*node.impl());

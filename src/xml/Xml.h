@@ -53,6 +53,9 @@ bool XmlIsTextNode(XmlNode node);
 // Walking a list of children in order: null for a null node or when there is none.
 XmlNode XmlFirstChild(XmlNode node);
 XmlNode XmlNextSibling(XmlNode node);
+// The parent (parentNode): the element or document holding `node`; null for a null node, a
+// document, or an attribute.
+XmlNode XmlGetParent(XmlNode node);
 
 // Reading: the result is the node read (attribute, child or the node itself), or null.
 XmlNode XmlGetAttr(XmlNode node, const char* name, std::string& value);

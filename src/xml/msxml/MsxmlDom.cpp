@@ -142,6 +142,12 @@ Node FirstChild(const NodeImpl& impl) { return Wrap(FirstChildOf(impl.node.get()
 
 Node NextSibling(const NodeImpl& impl) { return Wrap(NextSiblingOf(impl.node.get())); }
 
+Node ParentNode(const NodeImpl& impl) {
+  ComPtr<IXMLDOMNode> parent;
+  Check(impl.node->get_parentNode(parent.put()), "IXMLDOMNode::get_parentNode");
+  return Wrap(std::move(parent));
+}
+
 Node NamedAttribute(const NodeImpl& impl, const char* name) {
   ComPtr<IXMLDOMNamedNodeMap> attributes;
   Check(impl.node->get_attributes(attributes.put()), "IXMLDOMNode::get_attributes");

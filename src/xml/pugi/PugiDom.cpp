@@ -210,6 +210,26 @@ Node NextSibling(const NodeImpl& impl) {
   return MakeNode(impl.Tree(), impl.node.next_sibling());
 }
 
+Node ParentNode(const NodeImpl& impl) {
+  // As the DOM has it: an attribute has no parent, its text's parent is the attribute.
+  switch (impl.kind) {
+    case NodeImpl::Kind::Document:
+    case NodeImpl::Kind::Attribute: return nullptr;
+    case NodeImpl::Kind::AttributeText: return MakeAttribute(impl.Tree(), impl.attribute, NodeImpl::Kind::Attribute);
+    case NodeImpl::Kind::Node: break;
+  }
+  pugi::xml_node parent = impl.node.parent();
+  if (!parent) return nullptr;
+  if (parent.type() != pugi::node_document) return MakeNode(impl.Tree(), parent);
+  // The top of a tree: its document. A tree that a later load replaced stands on its own, as
+  // MSXML leaves the nodes of a former content; its document handle is a new one over that tree.
+  auto document = std::make_shared<NodeImpl>();
+  document->kind = NodeImpl::Kind::Document;
+  document->owner = std::make_shared<DocumentState>();
+  document->owner->current = impl.Tree();
+  return document;
+}
+
 Node NamedAttribute(const NodeImpl& impl, const char* name) {
   if (impl.kind != NodeImpl::Kind::Node || impl.node.type() != pugi::node_element) return nullptr;
   pugi::xml_attribute attribute = impl.node.attribute(name);
