@@ -1,0 +1,13 @@
+# The COM objects of the DLL and what runs them: ChartPages, its events, the sheet dispatcher.
+# Included by src/host/CMakeLists.txt; a static library so tests drive the objects directly.
+add_library(orv_host_objects STATIC
+  ${CMAKE_CURRENT_LIST_DIR}/ChartPages.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComError.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ConnectionPoint.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SheetDispatcher.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/TypeLibrary.cpp)
+target_include_directories(orv_host_objects PUBLIC ${PROJECT_SOURCE_DIR}/src)
+target_link_libraries(orv_host_objects PUBLIC orv_idl orv_xml orv_dlgkit orv_host_module ole32 oleaut32 uuid)
+if(TARGET orv_linestudies)
+  target_link_libraries(orv_host_objects PUBLIC orv_linestudies)
+endif()
