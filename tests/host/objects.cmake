@@ -1,0 +1,12 @@
+# The ChartPages object driven directly (no registration): creation and aggregation, the
+# interface table, dispatch from the type library, events into strict sinks, the dispatcher's
+# outcomes and failures. The program carries the type library as its own resource, as the DLL does.
+set(host_objects_rc ${CMAKE_CURRENT_BINARY_DIR}/host_objects_tests.rc)
+file(WRITE ${host_objects_rc} "1 TYPELIB \"${ORV_TYPELIB}\"\n")
+set_property(SOURCE ${host_objects_rc} APPEND PROPERTY OBJECT_DEPENDS ${ORV_TYPELIB})
+add_executable(host_objects_tests ${CMAKE_CURRENT_LIST_DIR}/ChartPagesTests.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ChartPagesEventTests.cpp ${host_objects_rc})
+add_dependencies(host_objects_tests orv_idl_outputs)
+target_link_libraries(host_objects_tests PRIVATE orv_host_objects GTest::gtest_main)
+set_target_properties(host_objects_tests PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ORV_RUNTIME_DIR})
+orv_add_test(host_objects_tests)
