@@ -4,8 +4,11 @@
 #include <memory>
 #include <string>
 
+#include "dlgkit/SheetRunner.h"
+#include "dlgkit/win32/ChartDataWin32.h"
 #include "host/ActivationContext.h"
 #include "host/ChartPages.h"
+#include "linestudies/LsPs.h"
 
 namespace orv::host {
 namespace {
@@ -44,18 +47,34 @@ long SheetDispatcher::Run(CChartPages* owner, XmlNode doc, IUnknown* chartData, 
 
   // The sheet is parented to whatever window of this thread is active now (null is handed on).
   HWND parent = GetActiveWindow();
+  // The sheet's windows are made in the component's context (comctl32 v6), whatever the host's.
   ScopedUiActivation activation;
   switch (kind) {
+    case SheetKind::LineStudies: {
+      CLsPs<CChartPages> lineStudies(owner);
+      lineStudies.InitFromXml(sheet);
+      if (withChartData) lineStudies.SetChartData(orv::WrapChartData(chartData));
+      result = static_cast<long>(lineStudies.DoModal(parent));
+      break;
+    }
     case SheetKind::CustomLines:
-    case SheetKind::LineStudies:
-    case SheetKind::SeasonalWizard:
+    case SheetKind::SeasonalWizard: {
+      // Until their pages exist these sheets run empty, with the buttons and the outcome
+      // (and, for the wizard, the event after Finish) they will have.
+      orv::SheetSpec spec;
+      spec.wizard = kind == SheetKind::SeasonalWizard;
+      spec.parent = parent;
+      XmlGetAttr(sheet, "Title", spec.title);
+      result = static_cast<long>(orv::CreatePlatformSheetRunner()->Run(spec));
+      if (spec.wizard && result == 1 && owner != nullptr) {
+        std::int32_t answer = 0;  // what the host answers changes nothing
+        owner->FireStatusEvent(0, XmlGetXml(sheet), 0, std::string(), answer);
+      }
+      break;
+    }
     case SheetKind::None:
       break;
   }
-  (void)owner;
-  (void)chartData;
-  (void)withChartData;
-  (void)parent;
   return result;
 }
 
