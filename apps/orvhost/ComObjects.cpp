@@ -1,0 +1,225 @@
+#include "ComObjects.h"
+
+#include "xml/StrFormat.h"
+
+#include <utility>
+
+namespace orv::host_app {
+namespace {
+
+class ChartData final : public IChartData {
+public:
+    explicit ChartData(SyntheticChart chart) : chart_(std::move(chart)) {}
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override
+    {
+        if (object == nullptr) return E_POINTER;
+        *object = nullptr;
+        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IChartData)) return E_NOINTERFACE;
+        *object = static_cast<IChartData*>(this);
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
+    ULONG STDMETHODCALLTYPE Release() override
+    {
+        const ULONG left = --refs_;
+        if (left == 0) delete this;
+        return left;
+    }
+
+    HRESULT STDMETHODCALLTYPE GetBarCount(LONG* count) override
+    {
+        if (count == nullptr) return E_INVALIDARG;
+        *count = chart_.BarCount();
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetValue(LONG field, LONG barPos, double* value) override
+    {
+        if (value == nullptr) return E_INVALIDARG;
+        double v = 0;
+        if (!chart_.Value(field, barPos, v)) return E_INVALIDARG;
+        *value = v;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetTimeKind(LONG* kind) override
+    {
+        if (kind == nullptr) return E_INVALIDARG;
+        *kind = chart_.IsIntraday() ? 1 : 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE DateToPos(LONG date, LONG time, LONG, LONG, LONG* exact, LONG* barPos) override
+    {
+        if (barPos == nullptr) return E_INVALIDARG;
+        bool isExact = false;
+        const int position = chart_.FindBar(date, time, isExact);
+        *barPos = position;
+        if (exact != nullptr) *exact = isExact ? 1 : 0;
+        return position < 0 ? E_FAIL : S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE PosToDate(LONG barPos, LONG* date, LONG* time, LONG* seconds, LONG, LONG) override
+    {
+        const Bar* bar = chart_.BarAt(barPos);
+        if (bar == nullptr || date == nullptr) return E_INVALIDARG;
+        *date = bar->date;
+        if (time != nullptr) *time = bar->minutes;
+        if (seconds != nullptr) *seconds = bar->seconds;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE PosToDateOnly(LONG barPos, LONG* date, LONG) override
+    {
+        const Bar* bar = chart_.BarAt(barPos);
+        if (bar == nullptr || date == nullptr) return E_INVALIDARG;
+        *date = bar->date;
+        return S_OK;
+    }
+
+private:
+    ~ChartData() = default;
+    ULONG refs_ = 1;
+    SyntheticChart chart_;
+};
+
+void AppendUtf8(std::string& out, unsigned code)
+{
+    if (code < 0x80) {
+        out += static_cast<char>(code);
+    } else if (code < 0x800) {
+        out += static_cast<char>(0xC0 | (code >> 6));
+        out += static_cast<char>(0x80 | (code & 0x3F));
+    } else if (code < 0x10000) {
+        out += static_cast<char>(0xE0 | (code >> 12));
+        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (code & 0x3F));
+    } else {
+        out += static_cast<char>(0xF0 | (code >> 18));
+        out += static_cast<char>(0x80 | ((code >> 12) & 0x3F));
+        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (code & 0x3F));
+    }
+}
+
+} // namespace
+
+ComPtr<IChartData> MakeChartData(SyntheticChart chart)
+{
+    return ComPtr<IChartData>::Attach(new ChartData(std::move(chart)));
+}
+
+std::string EscapeEventText(const wchar_t* text, UINT length)
+{
+    std::string out;
+    for (UINT i = 0; i < length; ++i) {
+        unsigned code = text[i];
+        switch (code) {
+        case L'\r': out += "\\r"; continue;
+        case L'\n': out += "\\n"; continue;
+        case L'\t': out += "\\t"; continue;
+        case L'\\': out += "\\\\"; continue;
+        default: break;
+        }
+        if (code < 0x20 || code == 0x7F) {
+            out += StrFormat("\\x%02X", code);
+            continue;
+        }
+        if (code >= 0xD800 && code < 0xDC00 && i + 1 < length && text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000) {
+            code = 0x10000 + ((code - 0xD800) << 10) + (static_cast<unsigned>(text[++i]) - 0xDC00);
+        } else if (code >= 0xD800 && code < 0xE000) {
+            code = 0xFFFD; // a lone surrogate
+        }
+        AppendUtf8(out, code);
+    }
+    return out;
+}
+
+ComPtr<StatusEventPrinter> StatusEventPrinter::Make(std::FILE* out)
+{
+    return ComPtr<StatusEventPrinter>::Attach(new StatusEventPrinter(out));
+}
+
+HRESULT StatusEventPrinter::QueryInterface(REFIID iid, void** object)
+{
+    if (object == nullptr) return E_POINTER;
+    *object = nullptr;
+    if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IDispatch) && !IsEqualIID(iid, DIID__IChartPagesEvents)) {
+        return E_NOINTERFACE;
+    }
+    *object = static_cast<IDispatch*>(this);
+    AddRef();
+    return S_OK;
+}
+
+ULONG StatusEventPrinter::AddRef() { return ++refs_; }
+
+ULONG StatusEventPrinter::Release()
+{
+    const ULONG left = --refs_;
+    if (left == 0) delete this;
+    return left;
+}
+
+HRESULT StatusEventPrinter::GetTypeInfoCount(UINT* count)
+{
+    if (count == nullptr) return E_POINTER;
+    *count = 0;
+    return S_OK;
+}
+
+HRESULT StatusEventPrinter::GetTypeInfo(UINT, LCID, ITypeInfo** info)
+{
+    if (info != nullptr) *info = nullptr;
+    return E_NOTIMPL;
+}
+
+HRESULT StatusEventPrinter::GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*)
+{
+    return E_NOTIMPL;
+}
+
+HRESULT StatusEventPrinter::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT*, EXCEPINFO*,
+                                   UINT* argError)
+{
+    constexpr DISPID kStatusEvent = 101;
+    if (id != kStatusEvent) return DISP_E_MEMBERNOTFOUND;
+    if (!(flags & DISPATCH_METHOD)) return DISP_E_MEMBERNOTFOUND;
+    if (params == nullptr || params->cArgs != 5 || params->cNamedArgs != 0) return DISP_E_BADPARAMCOUNT;
+    // Positional arguments arrive last first: plReturn, pXMLExtra, lValue, pValue, lType.
+    VARIANT& value = params->rgvarg[3];
+    const BSTR text = value.vt == VT_BSTR ? value.bstrVal
+                      : value.vt == (VT_BSTR | VT_BYREF) && value.pbstrVal != nullptr ? *value.pbstrVal
+                                                                                     : nullptr;
+    if (value.vt != VT_BSTR && value.vt != (VT_BSTR | VT_BYREF)) {
+        if (argError != nullptr) *argError = 3;
+        return DISP_E_TYPEMISMATCH;
+    }
+    ++events_;
+    const std::string line = EscapeEventText(text, SysStringLen(text));
+    std::fprintf(out_, "StatusEvent: %s\n", line.c_str());
+    std::fflush(out_);
+    VARIANT& answer = params->rgvarg[0];
+    if (answer.vt == (VT_I4 | VT_BYREF) && answer.plVal != nullptr) *answer.plVal = 0;
+    return S_OK;
+}
+
+EventConnection::~EventConnection()
+{
+    if (point_) point_->Unadvise(cookie_);
+}
+
+HRESULT EventConnection::Connect(IUnknown* source, REFIID iid, IUnknown* sink)
+{
+    ComPtr<IConnectionPointContainer> container;
+    HRESULT hr = source->QueryInterface(IID_IConnectionPointContainer, reinterpret_cast<void**>(container.put()));
+    if (FAILED(hr)) return hr;
+    ComPtr<IConnectionPoint> point;
+    hr = container->FindConnectionPoint(iid, point.put());
+    if (FAILED(hr)) return hr;
+    DWORD cookie = 0;
+    hr = point->Advise(sink, &cookie);
+    if (FAILED(hr)) return hr;
+    point_ = std::move(point);
+    cookie_ = cookie;
+    return S_OK;
+}
+
+} // namespace orv::host_app

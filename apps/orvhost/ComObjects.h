@@ -1,0 +1,67 @@
+// The host's own COM objects handed to the component: the synthetic chart behind IChartData,
+// and the sink that receives StatusEvent. Both are plain single-threaded objects: the
+// component calls them on this thread only.
+#pragma once
+
+#include "SyntheticChart.h"
+
+#include <windows.h>
+#include <ocidl.h>
+
+#include "OrvChartDlgs_h.h"
+#include "xml/msxml/ComPtr.h"
+
+#include <cstdio>
+#include <string>
+
+namespace orv::host_app {
+
+// IChartData over a SyntheticChart. Statuses: S_OK; E_INVALIDARG for a position without a bar,
+// an unknown field or a missing out parameter; E_FAIL from DateToPos when every bar is earlier.
+ComPtr<IChartData> MakeChartData(SyntheticChart chart);
+
+// pValue with \r, \n, \t and \\ written as escapes and other control characters as \xHH,
+// in UTF-8: one event stays one line, and the exact text can be read back.
+std::string EscapeEventText(const wchar_t* text, UINT length);
+
+// Prints "StatusEvent: <pValue escaped>" for every StatusEvent and answers plReturn with 0.
+class StatusEventPrinter : public IDispatch {
+public:
+    // Lines go to `out` (stdout in the program), flushed after each.
+    static ComPtr<StatusEventPrinter> Make(std::FILE* out);
+
+    int EventCount() const { return events_; }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
+    ULONG STDMETHODCALLTYPE AddRef() override;
+    ULONG STDMETHODCALLTYPE Release() override;
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override;
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
+                                     EXCEPINFO*, UINT* argError) override;
+
+private:
+    explicit StatusEventPrinter(std::FILE* out) : out_(out) {}
+    virtual ~StatusEventPrinter() = default;
+
+    ULONG refs_ = 1;
+    std::FILE* out_;
+    int events_ = 0;
+};
+
+// One sink connected to a source's connection point for `iid`, disconnected on destruction.
+class EventConnection {
+public:
+    EventConnection() = default;
+    EventConnection(const EventConnection&) = delete;
+    EventConnection& operator=(const EventConnection&) = delete;
+    ~EventConnection();
+    HRESULT Connect(IUnknown* source, REFIID iid, IUnknown* sink);
+
+private:
+    ComPtr<IConnectionPoint> point_;
+    DWORD cookie_ = 0;
+};
+
+} // namespace orv::host_app

@@ -1,0 +1,95 @@
+#include "Options.h"
+
+#include "xml/StrFormat.h"
+
+namespace orv::host_app {
+
+const char* const kUsage =
+    "usage: orvhost [options]\n"
+    "  --activate registered|manifest|direct  how ChartPages is created (default manifest)\n"
+    "  --progid <ProgID>        registered/manifest: create by ProgID, not by class id\n"
+    "  --dll <path>             direct: the DLL (default OrvChartDlgs.dll beside orvhost.exe)\n"
+    "  --manifest <file>        manifest: this application manifest instead of the built-in one\n"
+    "  --doc <file.xml>         the document (default: the built-in Trendline line study sheet)\n"
+    "  --no-chart-data          DoModal without chart data (default DoModal2 with a synthetic chart)\n"
+    "  --intraday               the synthetic chart has five-minute bars stamped to the second\n"
+    "  --script <file or text>  drive the sheet: text <id> <value>, click <id>, select <id> <index>,\n"
+    "                           tab <index>, apply, ok, cancel, next, back, finish, wait <ms>,\n"
+    "                           screenshot <file.png>; separated by new lines or ';'\n"
+    "  --screenshot <file.png>  the same as appending: screenshot <file.png>; cancel\n"
+    "Prints each StatusEvent as one line \"StatusEvent: <pValue>\" (\\r \\n \\t \\\\ escaped), then\n"
+    "\"DoModal returned <n>\". Exit code: the result (1 changed, 0 not, 2 no such sheet, 255 for -1);\n"
+    "3 a bad or failed script, 4 a bad command line or document, 5 the component failed.\n";
+
+namespace {
+
+std::string Narrow(const std::wstring& text)
+{
+    std::string out;
+    for (const wchar_t c : text) out += (c < 0x80) ? static_cast<char>(c) : '?';
+    return out;
+}
+
+} // namespace
+
+ParsedOptions ParseOptions(const std::vector<std::wstring>& args)
+{
+    ParsedOptions parsed;
+    Options& o = parsed.options;
+    bool sawProgId = false, sawDll = false, sawManifest = false;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::wstring& arg = args[i];
+        // Options that take a value refuse a missing or empty one.
+        auto value = [&](std::wstring& out) {
+            if (i + 1 >= args.size() || args[i + 1].empty()) {
+                parsed.error = StrFormat("%s needs a value", Narrow(arg).c_str());
+                return false;
+            }
+            out = args[++i];
+            return true;
+        };
+        if (arg == L"--activate") {
+            std::wstring how;
+            if (!value(how)) return parsed;
+            if (how == L"registered") o.activation = Activation::Registered;
+            else if (how == L"manifest") o.activation = Activation::Manifest;
+            else if (how == L"direct") o.activation = Activation::Direct;
+            else {
+                parsed.error = StrFormat("--activate takes registered, manifest or direct, not \"%s\"", Narrow(how).c_str());
+                return parsed;
+            }
+        } else if (arg == L"--progid") {
+            if (!value(o.progId)) return parsed;
+            sawProgId = true;
+        } else if (arg == L"--dll") {
+            if (!value(o.dllPath)) return parsed;
+            sawDll = true;
+        } else if (arg == L"--manifest") {
+            if (!value(o.manifestPath)) return parsed;
+            sawManifest = true;
+        } else if (arg == L"--doc") {
+            if (!value(o.docPath)) return parsed;
+        } else if (arg == L"--script") {
+            if (!value(o.script)) return parsed;
+        } else if (arg == L"--screenshot") {
+            if (!value(o.screenshot)) return parsed;
+        } else if (arg == L"--no-chart-data") {
+            o.noChartData = true;
+        } else if (arg == L"--intraday") {
+            o.intraday = true;
+        } else if (arg == L"--help" || arg == L"-h" || arg == L"/?") {
+            o.help = true;
+        } else {
+            parsed.error = StrFormat("unknown argument \"%s\"", Narrow(arg).c_str());
+            return parsed;
+        }
+    }
+    // An option that the chosen activation would ignore is a mistake worth saying.
+    if (sawProgId && o.activation == Activation::Direct) parsed.error = "--progid does not go with --activate direct";
+    else if (sawDll && o.activation != Activation::Direct) parsed.error = "--dll goes only with --activate direct";
+    else if (sawManifest && o.activation != Activation::Manifest) parsed.error = "--manifest goes only with --activate manifest";
+    else if (o.intraday && o.noChartData) parsed.error = "--intraday needs chart data; drop --no-chart-data";
+    return parsed;
+}
+
+} // namespace orv::host_app

@@ -1,0 +1,49 @@
+// The little language in which orvhost drives an open sheet as a user would: one command per line
+// or between semicolons, e.g. "click 4646; apply; cancel". Parsed completely before the sheet
+// opens, so a typo never leaves a half-driven dialog behind.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orv::host_app {
+
+enum class ScriptOp {
+    Text,       // text <id> <value>: the control's text, then EN_CHANGE to its parent
+    Click,      // click <id>: BM_CLICK
+    Select,     // select <id> <index>: CB_SETCURSEL or LB_SETCURSEL, then the SELCHANGE command
+    Tab,        // tab <index>: PSM_SETCURSEL
+    Apply,      // apply, ok, cancel, next, back, finish: PSM_PRESSBUTTON
+    Ok,
+    Cancel,
+    Next,
+    Back,
+    Finish,
+    Wait,       // wait <ms>
+    Screenshot, // screenshot <file.png>: the sheet as painted
+};
+
+struct ScriptStep {
+    ScriptOp op = ScriptOp::Wait;
+    int id = 0;          // control id (text, click, select)
+    int index = 0;       // item or tab index (select, tab)
+    int milliseconds = 0; // wait
+    std::string text;    // value (text) or file name (screenshot), UTF-8
+    std::string source;  // the command as written, for messages
+};
+
+struct ParsedScript {
+    std::vector<ScriptStep> steps;
+    std::string error; // empty when the whole script is good
+};
+
+// Commands are separated by new lines and by semicolons outside double quotes. A value or file
+// name may be quoted ("a b; c", with \" and \\ inside); unquoted, it is the rest of the command
+// with surrounding blanks removed. A command starting with # is a comment to the end of its line.
+ParsedScript ParseScript(std::string_view text);
+
+// The longest wait a script may ask for: a script that sleeps longer is surely wrong.
+inline constexpr int kMaxWaitMilliseconds = 60000;
+
+} // namespace orv::host_app
