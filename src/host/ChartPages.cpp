@@ -119,6 +119,22 @@ HRESULT CChartPages::Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS*
                             EXCEPINFO* exception, UINT* argError) {
   if (!IsEqualIID(iid, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
   try {
+    // Script hosts pass "no document" as null (VT_NULL), which the type info won't turn into an
+    // object: DoModal and DoModal2 take it as a null IUnknown, as VB's Nothing is.
+    VARIANTARG nullable[2];
+    DISPPARAMS adjusted;
+    if ((id == 1 || id == 3) && params != nullptr && params->cArgs <= 2 && params->rgvarg != nullptr) {
+      adjusted = *params;
+      for (UINT i = 0; i < params->cArgs; ++i) {
+        nullable[i] = params->rgvarg[i];
+        if (nullable[i].vt == VT_NULL || nullable[i].vt == VT_EMPTY) {
+          nullable[i].vt = VT_UNKNOWN;
+          nullable[i].punkVal = nullptr;
+        }
+      }
+      adjusted.rgvarg = nullable;
+      params = &adjusted;
+    }
     // The type info calls the vtable of IChartPages; a failing method's error info reaches
     // the caller's EXCEPINFO as DISP_E_EXCEPTION.
     return ChartPagesTypeInfo().Invoke(static_cast<IChartPages*>(this), id, flags, params, result, exception,

@@ -152,6 +152,11 @@ TEST_F(ChartPagesTest, DispatchServesNamesAndCallsFromTheTypeLibrary) {
             S_OK);
   EXPECT_EQ(result.get().vt, VT_I4);
   EXPECT_EQ(result.get().lVal, 2);
+  // A script's null (VT_NULL) is no document either.
+  nothing.vt = VT_NULL;
+  ASSERT_EQ(pages->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, result.put(), nullptr, nullptr),
+            S_OK);
+  EXPECT_EQ(result.get().lVal, 2);
   DISPPARAMS none{nullptr, nullptr, 0, 0};
   EXPECT_EQ(pages->Invoke(2, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, result.put(), nullptr, nullptr),
             DISP_E_BADPARAMCOUNT);
