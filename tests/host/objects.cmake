@@ -2,7 +2,12 @@
 # interface table, dispatch from the type library, events into strict sinks, the dispatcher's
 # outcomes and failures. The program carries the type library as its own resource, as the DLL does.
 set(host_objects_rc ${CMAKE_CURRENT_BINARY_DIR}/host_objects_tests.rc)
-file(WRITE ${host_objects_rc} "1 TYPELIB \"${ORV_TYPELIB}\"\n")
+set(host_objects_rc_text "1 TYPELIB \"${ORV_TYPELIB}\"\n")
+if(ORV_LINESTUDIES_RC)
+  # The line study pages' templates, as the DLL carries them.
+  string(APPEND host_objects_rc_text "#include \"${ORV_LINESTUDIES_RC}\"\n")
+endif()
+file(WRITE ${host_objects_rc} "${host_objects_rc_text}")
 set_property(SOURCE ${host_objects_rc} APPEND PROPERTY OBJECT_DEPENDS ${ORV_TYPELIB})
 add_executable(host_objects_tests ${CMAKE_CURRENT_LIST_DIR}/ChartPagesTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ChartPagesEventTests.cpp ${host_objects_rc})
@@ -10,3 +15,10 @@ add_dependencies(host_objects_tests orv_idl_outputs)
 target_link_libraries(host_objects_tests PRIVATE orv_host_objects GTest::gtest_main)
 set_target_properties(host_objects_tests PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ORV_RUNTIME_DIR})
 orv_add_test(host_objects_tests)
+
+# A script client by ProgID (JScript under Wine's cscript), after a registration for the machine.
+# Serial: it registers the DLL in the prefix that other tests share.
+add_test(NAME host_script_client
+  COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/script_client.sh $<TARGET_FILE:OrvChartDlgs>
+    ${CMAKE_CURRENT_LIST_DIR}/chartpages_client.js)
+set_tests_properties(host_script_client PROPERTIES LABELS wine TIMEOUT 120 RUN_SERIAL TRUE)
