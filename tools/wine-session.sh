@@ -98,9 +98,13 @@ if [ ! -f "$WINEPREFIX/system.reg" ]; then
   wineserver -w
 fi
 
-# Persistent server, detached from our pipes, then the prefix brought up to date.
+# Persistent server, detached from our pipes, then the prefix brought up to date. Plain wineboot:
+# "wineboot -i" on a prefix that exists starts a second service manager, and the RPC service then
+# never starts; every COM creation that may reach a local server (the host services are made with
+# all server contexts) would then wait 10 seconds for it. So the RPC service is started up front.
 wineserver -p </dev/null >/dev/null 2>&1 9>&-
-wineboot -i </dev/null >/dev/null 2>&1 9>&- || true
+wineboot </dev/null >/dev/null 2>&1 9>&- || true
+wine net start rpcss </dev/null >/dev/null 2>&1 9>&- || true
 
 # Unmanaged windows under Xvfb (no window manager there); managed ones on a real desktop,
 # so its window manager can move and close them. Written only when it changes.
