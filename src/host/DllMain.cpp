@@ -1,7 +1,12 @@
 // The exported entry points of OrvChartDlgs.dll. No exception may leave them.
-#include "host/Module.h"
-
 #include <objbase.h>
+
+#include <new>
+
+#include "host/ClassFactory.h"
+#include "host/ClassTable.h"
+#include "host/Module.h"
+#include "host/Registration.h"
 
 BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID /*reserved*/)
 {
@@ -18,22 +23,34 @@ extern "C" HRESULT STDAPICALLTYPE DllCanUnloadNow()
     return orv::host::CanUnloadNow();
 }
 
-extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID /*clsid*/, REFIID /*iid*/, LPVOID* object)
+extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, LPVOID* object)
 {
-    if (object == nullptr)
-        return E_POINTER;
-    *object = nullptr;
-    // The class table is still empty: no class is served by this module yet.
-    return CLASS_E_CLASSNOTAVAILABLE;
+    return orv::host::GetClassObject(orv::host::ModuleClasses(), clsid, iid, object);
 }
+
+namespace {
+
+// Both registration entry points read the scope anew: installers change "OrvInstallOpts"
+// between runs.
+template <typename Action> HRESULT WithConfiguredScope(Action action) noexcept
+{
+    try {
+        return action(orv::host::ModuleClasses(), orv::host::ModuleInstance(), orv::host::ConfiguredRegistrationScope());
+    } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    } catch (...) {
+        return E_UNEXPECTED;
+    }
+}
+
+} // namespace
 
 extern "C" HRESULT STDAPICALLTYPE DllRegisterServer()
 {
-    // Nothing to register until the class table has entries.
-    return S_OK;
+    return WithConfiguredScope(orv::host::RegisterServer);
 }
 
 extern "C" HRESULT STDAPICALLTYPE DllUnregisterServer()
 {
-    return S_OK;
+    return WithConfiguredScope(orv::host::UnregisterServer);
 }
