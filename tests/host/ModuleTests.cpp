@@ -1,17 +1,24 @@
 // The DLL's entry points as a host sees them: loaded from disk, reached by GetProcAddress.
+// Also its resources: the class list of the assembly manifest against what the DLL serves, and
+// the UI activation context.
+#include "host/ActivationContext.h"
 #include "host/Module.h"
 
 #include <gtest/gtest.h>
 
 #include <objbase.h>
+#include <oleauto.h>
 #include <unknwn.h>
 
-#include <filesystem>
-#include <memory>
 #include <string>
+#include <vector>
+
+#include "ModuleTesting.h"
+#include "OrvChartDlgs_h.h"
 
 namespace {
 
+using namespace orv::host::testing;
 using orv::host::CanUnloadNow;
 using orv::host::ModuleLock;
 
@@ -33,25 +40,24 @@ TEST(ModuleCount, UnloadIsRefusedWhileAnythingHoldsTheModule)
     EXPECT_EQ(orv::host::ModuleLockCount(), 0);
 }
 
-struct LibraryDeleter {
-    void operator()(HMODULE module) const { FreeLibrary(module); }
-};
-using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryDeleter>;
-
-// The DLL is built into the same folder as this program.
-std::wstring DllPath()
-{
-    std::wstring self(MAX_PATH, L'\0');
-    self.resize(GetModuleFileNameW(nullptr, self.data(), static_cast<DWORD>(self.size())));
-    return (std::filesystem::path(self).parent_path() / L"OrvChartDlgs.dll").wstring();
-}
+using GetClassObjectFn = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, LPVOID*);
+using NoArgFn = HRESULT(STDAPICALLTYPE*)();
 
 class Dll : public ::testing::Test {
 protected:
     void SetUp() override
     {
+        ASSERT_TRUE(SUCCEEDED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)));
         library_.reset(LoadLibraryW(DllPath().c_str()));
         ASSERT_TRUE(library_) << "cannot load OrvChartDlgs.dll, error " << GetLastError();
+        getClassObject_ = Export<GetClassObjectFn>("DllGetClassObject");
+        canUnloadNow_ = Export<NoArgFn>("DllCanUnloadNow");
+        ASSERT_TRUE(getClassObject_ && canUnloadNow_);
+    }
+    void TearDown() override
+    {
+        library_.reset();
+        CoUninitialize();
     }
     template <typename F> F Export(const char* name)
     {
@@ -59,48 +65,197 @@ protected:
         EXPECT_NE(proc, nullptr) << name << " is not exported";
         return reinterpret_cast<F>(reinterpret_cast<void*>(proc));
     }
+    IClassFactory* Factory(REFCLSID clsid)
+    {
+        IClassFactory* factory = nullptr;
+        EXPECT_EQ(getClassObject_(clsid, IID_IClassFactory, reinterpret_cast<void**>(&factory)), S_OK);
+        return factory;
+    }
     Library library_;
+    GetClassObjectFn getClassObject_ = nullptr;
+    NoArgFn canUnloadNow_ = nullptr;
 };
 
-using GetClassObjectFn = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, LPVOID*);
-using NoArgFn = HRESULT(STDAPICALLTYPE*)();
-
-// ChartPages, the class a host asks for first.
-constexpr CLSID kChartPagesClsid = {0x938D688E, 0x9268, 0x4672, {0x87, 0xAC, 0x84, 0x2D, 0xD8, 0xA6, 0x2A, 0xA8}};
-
-TEST_F(Dll, GetClassObjectRefusesUnknownClassesAndClearsTheOutPointer)
+TEST_F(Dll, ClassesNotServedAreRefusedAndTheOutPointerCleared)
 {
-    auto getClassObject = Export<GetClassObjectFn>("DllGetClassObject");
-    ASSERT_NE(getClassObject, nullptr);
-
+    // AnalyticsPpg and SznWzrdPgSeason are listed by the type library and never served.
+    for (const CLSID* clsid : {&CLSID_AnalyticsPpg, &CLSID_SznWzrdPgSeason, &GUID_NULL, &IID_IChartPages}) {
+        void* object = reinterpret_cast<void*>(0x1234);
+        EXPECT_EQ(getClassObject_(*clsid, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE) << GuidText(*clsid);
+        EXPECT_EQ(object, nullptr);
+    }
+    EXPECT_EQ(getClassObject_(CLSID_ChartPages, IID_IClassFactory, nullptr), E_POINTER);
     void* object = reinterpret_cast<void*>(0x1234);
-    EXPECT_EQ(getClassObject(kChartPagesClsid, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
+    EXPECT_EQ(getClassObject_(CLSID_ChartPages, IID_IChartPages, &object), E_NOINTERFACE);
     EXPECT_EQ(object, nullptr);
-
-    object = reinterpret_cast<void*>(0x1234);
-    EXPECT_EQ(getClassObject(GUID_NULL, IID_IUnknown, &object), CLASS_E_CLASSNOTAVAILABLE);
-    EXPECT_EQ(object, nullptr);
-
-    EXPECT_EQ(getClassObject(kChartPagesClsid, IID_IClassFactory, nullptr), E_POINTER);
+    EXPECT_EQ(canUnloadNow_(), S_OK); // the refused factory did not stay behind
 }
 
-TEST_F(Dll, AFreshlyLoadedModuleCanBeUnloaded)
+// A minimal outer object: aggregation hands it the inner object's own IUnknown.
+class Outer final : public IUnknown {
+public:
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override
+    {
+        if (IsEqualIID(iid, IID_IUnknown)) {
+            *object = this;
+            AddRef();
+            return S_OK;
+        }
+        return inner ? inner->QueryInterface(iid, object) : E_NOINTERFACE;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references; }
+    ULONG STDMETHODCALLTYPE Release() override { return --references; }
+    ULONG references = 1;
+    IUnknown* inner = nullptr;
+};
+
+TEST_F(Dll, FactoryCreatesPlainAndAggregatedAndRefusesAggregationByAnotherInterface)
 {
-    auto canUnloadNow = Export<NoArgFn>("DllCanUnloadNow");
-    ASSERT_NE(canUnloadNow, nullptr);
-    EXPECT_EQ(canUnloadNow(), S_OK);
+    IClassFactory* factory = Factory(CLSID_ChartPages);
+    ASSERT_NE(factory, nullptr);
+
+    IChartPages* pages = nullptr;
+    ASSERT_EQ(factory->CreateInstance(nullptr, IID_IChartPages, reinterpret_cast<void**>(&pages)), S_OK);
+    long result = 0;
+    EXPECT_EQ(pages->TerminatePage(0, &result), S_OK);
+    EXPECT_EQ(result, 1);
+    pages->Release();
+
+    Outer outer;
+    void* object = reinterpret_cast<void*>(0x1234);
+    EXPECT_EQ(factory->CreateInstance(&outer, IID_IChartPages, &object), CLASS_E_NOAGGREGATION);
+    EXPECT_EQ(object, nullptr);
+    EXPECT_EQ(factory->CreateInstance(&outer, IID_IDispatch, &object), CLASS_E_NOAGGREGATION);
+
+    ASSERT_EQ(factory->CreateInstance(&outer, IID_IUnknown, reinterpret_cast<void**>(&outer.inner)), S_OK);
+    // The inner object's interfaces answer for the outer one: a query comes back to it.
+    IChartPages* aggregated = nullptr;
+    ASSERT_EQ(outer.QueryInterface(IID_IChartPages, reinterpret_cast<void**>(&aggregated)), S_OK);
+    IUnknown* identity = nullptr;
+    ASSERT_EQ(aggregated->QueryInterface(IID_IUnknown, reinterpret_cast<void**>(&identity)), S_OK);
+    EXPECT_EQ(identity, &outer);
+    identity->Release();
+    aggregated->Release();
+    EXPECT_EQ(outer.inner->Release(), 0u);
+    EXPECT_EQ(outer.references, 1u);
+
+    EXPECT_EQ(factory->CreateInstance(nullptr, IID_IChartPages, nullptr), E_POINTER);
+    factory->Release();
 }
 
-TEST_F(Dll, RegistrationEntryPointsSucceed)
+TEST_F(Dll, UnloadWaitsForObjectsFactoriesAndServerLocks)
 {
-    auto registerServer = Export<NoArgFn>("DllRegisterServer");
-    auto unregisterServer = Export<NoArgFn>("DllUnregisterServer");
-    ASSERT_NE(registerServer, nullptr);
-    ASSERT_NE(unregisterServer, nullptr);
-    EXPECT_EQ(registerServer(), S_OK);
-    EXPECT_EQ(unregisterServer(), S_OK);
-    // Unregistering what is not registered is not an error either.
-    EXPECT_EQ(unregisterServer(), S_OK);
+    ASSERT_EQ(canUnloadNow_(), S_OK);
+    IClassFactory* factory = Factory(CLSID_ChartPages);
+    ASSERT_NE(factory, nullptr);
+    EXPECT_EQ(canUnloadNow_(), S_FALSE); // a live factory is code of the module
+
+    IUnknown* object = nullptr;
+    ASSERT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, reinterpret_cast<void**>(&object)), S_OK);
+    EXPECT_EQ(factory->LockServer(TRUE), S_OK);
+    factory->Release();
+    EXPECT_EQ(canUnloadNow_(), S_FALSE); // the object and the lock
+
+    object->Release();
+    EXPECT_EQ(canUnloadNow_(), S_FALSE); // the lock alone
+
+    factory = Factory(CLSID_ChartPages);
+    EXPECT_EQ(factory->LockServer(FALSE), S_OK);
+    factory->Release();
+    EXPECT_EQ(canUnloadNow_(), S_OK);
+}
+
+// The DLL's assembly manifest (resource 1) lists exactly the classes it serves: walk the
+// coclasses of its own type library and ask DllGetClassObject for each.
+TEST_F(Dll, AssemblyManifestListsExactlyTheServedClasses)
+{
+    HRSRC found = FindResourceW(library_.get(), MAKEINTRESOURCEW(1), MAKEINTRESOURCEW(24));
+    ASSERT_NE(found, nullptr) << "no assembly manifest (resource 1)";
+    const char* bytes = static_cast<const char*>(LockResource(LoadResource(library_.get(), found)));
+    const std::string manifest(bytes, SizeofResource(library_.get(), found));
+    EXPECT_NE(manifest.find("name=\"OrvChartDlgs\" version=\"1.0.0.0\""), std::string::npos);
+
+    ITypeLib* library = nullptr;
+    ASSERT_EQ(LoadTypeLibEx(DllPath().c_str(), REGKIND_NONE, &library), S_OK);
+    int served = 0;
+    for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
+        TYPEKIND kind{};
+        ASSERT_EQ(library->GetTypeInfoType(i, &kind), S_OK);
+        if (kind != TKIND_COCLASS)
+            continue;
+        ITypeInfo* info = nullptr;
+        ASSERT_EQ(library->GetTypeInfo(i, &info), S_OK);
+        TYPEATTR* attr = nullptr;
+        ASSERT_EQ(info->GetTypeAttr(&attr), S_OK);
+        const GUID clsid = attr->guid;
+        info->ReleaseTypeAttr(attr);
+        info->Release();
+
+        IClassFactory* factory = nullptr;
+        bool serves = getClassObject_(clsid, IID_IClassFactory, reinterpret_cast<void**>(&factory)) == S_OK;
+        if (factory)
+            factory->Release();
+        std::wstring text = L"clsid=\"" + GuidText(clsid) + L"\"";
+        bool listed = manifest.find(std::string(text.begin(), text.end())) != std::string::npos;
+        EXPECT_EQ(serves, listed) << GuidText(clsid) << (serves ? " is served but not in" : " is not served but in")
+                                  << " the manifest";
+        served += serves;
+    }
+    library->Release();
+    EXPECT_GE(served, 1);
+}
+
+// 6 when the active activation context redirects comctl32.dll to the common controls
+// assembly version 6 (visual styles), else 5. Asked of the context itself: Wine serves both
+// versions from one builtin DLL, so the loaded module's own version says nothing.
+DWORD CommonControlsMajorVersion()
+{
+    ACTCTX_SECTION_KEYED_DATA data{};
+    data.cbSize = sizeof data;
+    if (!FindActCtxSectionStringW(FIND_ACTCTX_SECTION_KEY_RETURN_HACTCTX, nullptr,
+                                  ACTIVATION_CONTEXT_SECTION_DLL_REDIRECTION, L"comctl32.dll", &data))
+        return 5;
+    ReleaseActCtx(data.hActCtx);
+    return 6;
+}
+
+TEST_F(Dll, UiManifestResourceMakesAContextWithVisualStyles)
+{
+    ACTCTXW request{};
+    request.cbSize = sizeof request;
+    request.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
+    const std::wstring path = DllPath();
+    request.lpSource = path.c_str();
+    request.hModule = library_.get();
+    request.lpResourceName = MAKEINTRESOURCEW(2);
+    HANDLE context = CreateActCtxW(&request);
+    ASSERT_NE(context, INVALID_HANDLE_VALUE) << "error " << GetLastError();
+    ULONG_PTR cookie = 0;
+    ASSERT_TRUE(ActivateActCtx(context, &cookie));
+    EXPECT_EQ(CommonControlsMajorVersion(), 6u);
+    DeactivateActCtx(0, cookie);
+    ReleaseActCtx(context);
+}
+
+// This program carries the same UI manifest as its own resource 2 (see module.cmake), so the
+// scope finds it in the module that holds the code, as the DLL's objects do.
+TEST(UiActivation, ScopeActivatesTheModulesContextAndRestoresTheCallers)
+{
+    ASSERT_NE(orv::host::UiActivationContext(), INVALID_HANDLE_VALUE);
+    EXPECT_EQ(orv::host::UiActivationContext(), orv::host::UiActivationContext()); // made once
+    const DWORD outside = CommonControlsMajorVersion();
+    EXPECT_LT(outside, 6u); // the program's own manifest asks for no common controls
+    {
+        orv::host::ScopedUiActivation ui;
+        ASSERT_TRUE(ui.active());
+        EXPECT_EQ(CommonControlsMajorVersion(), 6u);
+        {
+            orv::host::ScopedUiActivation nested;
+            EXPECT_TRUE(nested.active());
+        }
+        EXPECT_EQ(CommonControlsMajorVersion(), 6u);
+    }
+    EXPECT_EQ(CommonControlsMajorVersion(), outside);
 }
 
 } // namespace
