@@ -1,0 +1,151 @@
+// The Advanced page alone: its load and save rules and its controls.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "dlgkit/fake/ControlsFake.h"
+#include "dlgkit/fake/HeadlessRunner.h"
+#include "linestudies/LsPgAdvanced.h"
+#include "xml/Xml.h"
+
+namespace {
+
+using orv::FakeControls;
+
+XmlNode PageIn(const std::string& text) {
+  XmlNode document = XmlCreateDocument();
+  EXPECT_TRUE(XmlLoadString(document, text)) << text;
+  return XmlFindNode(document, "PropertyPage", true);
+}
+
+std::string Sheet(const std::string& kind, const std::string& page) {
+  return "<PropertySheet Name=\"LSPs\"" + kind + "><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\">" + page +
+         "</PropertyPage></PropertyPageList></PropertySheet>";
+}
+
+std::string Saved(CLsPgAdvanced& page) {
+  XmlNode document = XmlCreateDocument();
+  XmlNode element = XmlAddChild(document, "PropertyPage");
+  page.Save(element);
+  std::string text = XmlGetXml(element);
+  std::string out;
+  for (char c : text)
+    if (c != '\r' && c != '\n' && c != '\t') out += c;
+  return out;
+}
+
+struct Case {
+  const char* children;
+  std::int32_t attach;
+};
+
+TEST(LsPgAdvanced, LoadDerivesAttachAndSaveWritesBothFlags) {
+  const Case cases[] = {
+      {"", CLsPgAdvanced::kAttachSymbol},
+      {"<AlwaysVisible>FALSE</AlwaysVisible>", CLsPgAdvanced::kAttachSymbol},
+      {"<AlwaysVisible>TRUE</AlwaysVisible>", CLsPgAdvanced::kAttachChart},
+      {"<AlwaysVisible>1</AlwaysVisible><LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch>", CLsPgAdvanced::kAttachChart},
+      {"<AlwaysVisible>FALSE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch>", CLsPgAdvanced::kAttachScreen},
+      {"<LSTxt_ScrnAnch>true</LSTxt_ScrnAnch>", CLsPgAdvanced::kAttachScreen},
+      // Only direct children count.
+      {"<Inner><AlwaysVisible>TRUE</AlwaysVisible></Inner>", CLsPgAdvanced::kAttachSymbol},
+  };
+  for (const Case& c : cases) {
+    CLsPgAdvanced page;
+    EXPECT_TRUE(page.Load(PageIn(Sheet(" Kind=\"6\"", c.children))));
+    EXPECT_EQ(page.AttachValue(), c.attach) << c.children;
+    EXPECT_FALSE(page.IsDirty());
+  }
+  CLsPgAdvanced screen;
+  screen.Load(PageIn(Sheet("", "<AlwaysVisible>FALSE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch>")));
+  EXPECT_EQ(Saved(screen), "<PropertyPage><AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch></PropertyPage>");
+  CLsPgAdvanced chart;
+  chart.Load(PageIn(Sheet("", "<AlwaysVisible>TRUE</AlwaysVisible>")));
+  EXPECT_EQ(Saved(chart), "<PropertyPage><AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch></PropertyPage>");
+}
+
+TEST(LsPgAdvanced, KindComesFromTheSheetTwoLevelsUpAndItsAbsenceRaises) {
+  CLsPgAdvanced page;
+  page.Load(PageIn(Sheet(" Kind=\"6\"", "")));
+  EXPECT_EQ(page.Kind(), 6);
+  CLsPgAdvanced noKind;
+  noKind.Load(PageIn(Sheet("", "")));
+  EXPECT_EQ(noKind.Kind(), 0);
+
+  // A PropertyPage at the top of its document has no PropertySheet above it.
+  CLsPgAdvanced orphan;
+  try {
+    orphan.Load(PageIn("<PropertyPage Name=\"LsPgAdvanced\"/>"));
+    ADD_FAILURE() << "no exception";
+  } catch (const XmlComError& error) {
+    EXPECT_EQ(error.status(), orv::kStatusPointer);
+  }
+  EXPECT_THROW(orphan.Load(XmlNode()), XmlComError);
+}
+
+class AdvancedOnSheet : public ::testing::Test {
+ protected:
+  void Open(const std::string& kind, const std::string& children) {
+    controls.AddRadio(IDC_LS_ATTACH_SYMBOL, 1).AddRadio(IDC_LS_ATTACH_CHART, 1).AddRadio(IDC_LS_ATTACH_SCREEN, 1);
+    controls.Control(IDC_LS_ATTACH_SCREEN).visible = false;
+    page.Load(PageIn(Sheet(kind, children)));
+    runner.AddPage(page, controls);
+    runner.SetPageApplyHandler([this](int id) {
+      applies.push_back(id);
+      EXPECT_TRUE(page.IsDirty()) << "the sheet reads the page while it is still dirty";
+      return 0;
+    });
+    runner.Start();
+  }
+  int Checked() {
+    for (int id : {IDC_LS_ATTACH_SYMBOL, IDC_LS_ATTACH_CHART, IDC_LS_ATTACH_SCREEN})
+      if (controls.IsDlgButtonChecked(id) == orv::kBstChecked) return id;
+    return 0;
+  }
+  CLsPgAdvanced page;
+  FakeControls controls;
+  orv::HeadlessRunner runner;
+  std::vector<int> applies;
+};
+
+TEST_F(AdvancedOnSheet, ScreenChoiceShownOnlyForKindSixAndGroupFilledWithoutMarkingChange) {
+  Open(" Kind=\"6\"", "<LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch>");
+  EXPECT_TRUE(controls.IsDlgItemVisible(IDC_LS_ATTACH_SCREEN));
+  EXPECT_EQ(Checked(), IDC_LS_ATTACH_SCREEN);
+  EXPECT_FALSE(page.IsDirty());
+  EXPECT_FALSE(runner.IsApplyEnabled());
+  EXPECT_TRUE(runner.PressOk());
+  EXPECT_TRUE(applies.empty());
+}
+
+TEST_F(AdvancedOnSheet, OtherKindsHideScreenChoice) {
+  Open(" Kind=\"2\"", "<AlwaysVisible>TRUE</AlwaysVisible>");
+  EXPECT_FALSE(controls.IsDlgItemVisible(IDC_LS_ATTACH_SCREEN));
+  EXPECT_EQ(Checked(), IDC_LS_ATTACH_CHART);
+  EXPECT_THROW(controls.Click(IDC_LS_ATTACH_SCREEN), std::logic_error) << "a hidden choice can't be clicked";
+}
+
+TEST_F(AdvancedOnSheet, ClickMarksChangedAndLeavingSendsOnceThenClears) {
+  Open(" Kind=\"6\"", "");
+  controls.Click(IDC_LS_ATTACH_SCREEN);
+  EXPECT_TRUE(page.IsDirty());
+  EXPECT_TRUE(controls.IsSheetChanged());
+  EXPECT_TRUE(runner.PressApply());
+  EXPECT_EQ(applies, std::vector<int>{1352});
+  EXPECT_FALSE(page.IsDirty());
+  EXPECT_EQ(page.AttachValue(), CLsPgAdvanced::kAttachScreen);
+  // Apply's own step does nothing: the kill-active step already sent it.
+  EXPECT_EQ(page.OnApply(), orv::ApplyResult::NoError);
+  EXPECT_TRUE(runner.PressOk());
+  EXPECT_EQ(applies, std::vector<int>{1352});
+}
+
+TEST_F(AdvancedOnSheet, HelpAsksForTheBookAndThePage) {
+  Open("", "");
+  EXPECT_TRUE(page.OnHelp());
+  ASSERT_EQ(controls.HelpRequests().size(), 1u);
+  EXPECT_EQ(controls.HelpRequests()[0], (std::pair<std::string, int>{"CHARTX", 1352}));
+}
+
+}  // namespace
