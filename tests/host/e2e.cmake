@@ -5,3 +5,9 @@ add_executable(orvhost_tests orvhost/OrvhostPartsTest.cpp orvhost/ScriptDriverTe
 target_link_libraries(orvhost_tests PRIVATE orvhost_core GTest::gtest_main)
 set_target_properties(orvhost_tests PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ORV_RUNTIME_DIR})
 orv_add_test(orvhost_tests)
+
+# The component end to end through orvhost: activation through the DLL's manifest and straight
+# from the DLL, the platform's sheet driven by script, the exact events a C++ sink receives.
+add_test(NAME host_e2e_orvhost
+  COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/e2e.sh $<TARGET_FILE:orvhost> ${CMAKE_CURRENT_LIST_DIR}/e2e)
+set_tests_properties(host_e2e_orvhost PROPERTIES LABELS wine TIMEOUT 300)

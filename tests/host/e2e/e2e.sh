@@ -1,0 +1,67 @@
+#!/bin/sh
+# The component end to end through orvhost, inside a Wine session: COM activation (through the
+# DLL's manifest, or straight from the DLL), the platform's property sheet, scripted input, and
+# the StatusEvents a C++ sink receives. Each case compares orvhost's whole output and exit code.
+# Event texts are compared without the line breaks and tabs that the DOM's markup may carry.
+#   e2e.sh <orvhost.exe> <folder of the documents>
+set -u
+host=$1
+docs=$2
+failures=0
+out=$(mktemp) err=$(mktemp)
+trap 'rm -f "$out" "$err"' EXIT
+
+# case <name> <expected exit code> <expected output> <orvhost arguments...>
+case_() {
+  name=$1 code=$2 expected=$3
+  shift 3
+  wine "$host" "$@" >"$out" 2>"$err"
+  rc=$?
+  # Standard output, then what was said on standard error.
+  actual=$( (cat "$out"; cat "$err") | tr -d '\r' | sed -e 's/\\[rnt]//g')
+  if [ "$actual" = "$expected" ] && [ "$rc" = "$code" ]; then
+    echo "ok   $name"
+  else
+    echo "FAIL $name: exit code $rc (expected $code), output:"
+    echo "$actual"
+    echo "expected:"
+    echo "$expected"
+    failures=$((failures + 1))
+  fi
+}
+
+doc() { winepath -w "$docs/$1"; }
+
+applied() {
+  printf 'StatusEvent: <PropertySheet Name="LSPs"><PropertyPageList><PropertyPage Name="LsPgAdvanced"><AlwaysVisible>%s</AlwaysVisible><LSTxt_ScrnAnch>%s</LSTxt_ScrnAnch></PropertyPage></PropertyPageList></PropertySheet>' "$1" "$2"
+}
+
+case_ "OK after a change: one event, result 1" 1 "$(applied TRUE FALSE)
+DoModal returned 1" --doc "$(doc advanced.xml)" --script "click 4646; ok"
+
+# The result after Apply and Cancel is the platform sheet's own answer; Wine's gives 0.
+case_ "Apply twice: one event; Cancel afterwards sends nothing more" 0 "$(applied TRUE FALSE)
+DoModal returned 0" --doc "$(doc advanced.xml)" --script "click 4646; apply; apply; click 4645; cancel"
+
+case_ "Apply, change, Apply: two events with what was shown each time" 1 "$(applied TRUE FALSE)
+$(applied FALSE FALSE)
+DoModal returned 1" --doc "$(doc advanced.xml)" --script "click 4646; apply; click 4645; apply; ok"
+
+case_ "Cancel after a change: no event, result 0" 0 "DoModal returned 0" \
+  --doc "$(doc advanced.xml)" --script "click 4646; cancel"
+
+case_ "OK without a change: no event, result 1" 1 "DoModal returned 1" --doc "$(doc advanced.xml)" --script "ok"
+
+case_ "Kind 6 offers the screen position; an unknown page is passed over; without chart data" 1 "$(applied TRUE TRUE)
+DoModal returned 1" --doc "$(doc advanced-text.xml)" --no-chart-data --script "click 4647; ok"
+
+case_ "Kind 1 hides the screen position" 3 "DoModal returned 0
+orvhost: script: command 1 (\"click 4647\"): control 4647 is hidden" --doc "$(doc advanced.xml)" --script "click 4647"
+
+case_ "no PropertySheet: result 2, no window" 2 "DoModal returned 2
+orvhost: no sheet was shown, so the script did not run" --doc "$(doc no-sheet.xml)" --script "ok"
+
+case_ "straight from the DLL, by DoModal" 1 "$(applied TRUE FALSE)
+DoModal returned 1" --activate direct --no-chart-data --doc "$(doc advanced.xml)" --script "click 4646; ok"
+
+exit "$failures"
