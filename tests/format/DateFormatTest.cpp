@@ -10,6 +10,7 @@
 #include <ostream>
 #include <string>
 
+#include "FakeDateLocale.h"
 #include "format/DateFormat.h"
 
 namespace {
@@ -32,7 +33,13 @@ struct DateCase {
 // Readable test names: the date, the id and the text expected.
 void PrintTo(const DateCase& c, std::ostream* os) { *os << c.date << " id " << c.id << " \"" << c.text << "\""; }
 
-class DateValue : public testing::TestWithParam<DateCase> {};
+// The United States' short date for id 224 on every build: on Windows the user's locale answers.
+class DateValue : public testing::TestWithParam<DateCase> {
+ protected:
+  DateValue() { locale_.picture = "M/d/yyyy"; }
+  FakeDateLocale locale_;
+  orv::ScopedDateLocale scope_{locale_};
+};
 
 TEST_P(DateValue, PrintsTheIdsForm) {
   const DateCase& c = GetParam();
@@ -152,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(
                     DateCase{std::numeric_limits<double>::infinity(), 273, "Invalid DateTime", 0},
                     DateCase{-std::numeric_limits<double>::infinity(), 999, "Invalid DateTime", 2}));
 
-TEST(DateValue, EveryKnownIdSucceedsAndOthersSayTheyAreUnknown) {
+TEST_F(DateValue, EveryKnownIdSucceedsAndOthersSayTheyAreUnknown) {
   const std::int32_t known[] = {16,  32,  48,  64,  80,  96,  112, 128, 144, 192, 208, 224, 241, 242, 243,
                                 244, 256, 257, 258, 272, 273, 274, 275, 276, 277, 278, 512, 513, 514, 768};
   int knownCount = 0;

@@ -41,11 +41,14 @@ INSTANTIATE_TEST_SUITE_P(
                     PictureCase{"100%", "100%%"}, PictureCase{"'%d'", "%%d"}, PictureCase{"%d", "%%%#d"},
                     PictureCase{"h:mm tt", "h:mm tt"}, PictureCase{"", ""}));
 
+#if !defined(_WIN32)
+// Natively every locale answers as the United States'; on Windows the platform's locale does.
 TEST(LocaleDate, TheUsersLocaleIsTheUnitedStatesNatively) {
   EXPECT_EQ(FormatLocaleDate(kAfternoon, 0), "7/6/2009");
   EXPECT_EQ(FormatLocaleDate(40471.0, 1031), "10/20/2010");
   EXPECT_EQ(FormatLocaleDate(1e12, 0), "Invalid DateTime");
 }
+#endif
 
 TEST(LocaleDate, FollowsThePictureOfTheLocaleAsked) {
   FakeDateLocale locale;
@@ -81,7 +84,7 @@ TEST(LocaleDate, ScopesNestAndRestore) {
     }
     EXPECT_EQ(FormatLocaleDate(kAfternoon, 0), "06.07.2009");
   }
-  EXPECT_EQ(FormatLocaleDate(kAfternoon, 0), "7/6/2009");
+  EXPECT_EQ(&orv::CurrentDateLocale(), &orv::PlatformDateLocale());
 }
 
 }  // namespace

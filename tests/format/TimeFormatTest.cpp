@@ -81,12 +81,14 @@ INSTANTIATE_TEST_SUITE_P(
                     TimeCase{90, 514, "1:30", 2}, TimeCase{90, 0, "1:30", 2}, TimeCase{90, -1, "1:30", 2}));
 
 // 769 asks the user's locale for the time of day in whole minutes; natively the answer is the
-// United States', "h:mm tt".
+// United States', "h:mm tt" (on Windows it is the user's, so these rows are native only).
+#if !defined(_WIN32)
 INSTANTIATE_TEST_SUITE_P(
     Locale, TimeValue,
     testing::Values(TimeCase{0, 769, "12:00 AM", 0}, TimeCase{-1, 769, "12:00 AM", 0},
                     TimeCase{kUnixTime, 769, "11:31 PM", 0}, TimeCase{43259, 769, "12:00 PM", 0},
                     TimeCase{86400 + 3600 + 59, 769, "1:00 AM", 0}));
+#endif
 
 TEST(TimeValue, TheLocaleFormIsAskedForHourAndMinuteOfTheDay) {
   FakeDateLocale locale;
