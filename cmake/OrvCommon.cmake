@@ -27,15 +27,16 @@ endif()
 # The DLL, the programs that load it and the demos share one folder, as on a user's machine.
 set(ORV_RUNTIME_DIR ${CMAKE_BINARY_DIR}/bin)
 
-# orv_add_test(<target>): registers a test program with ctest.
-# Natively each GoogleTest case is its own ctest test; a Windows program runs whole,
-# through Wine (see cmake/wine-run.sh), with the prefix that tools/wine-session.sh prepares.
+# orv_add_test(<target> [gtest_discover_tests options...]): registers a test program with ctest.
+# Natively each GoogleTest case is its own ctest test (further options, such as TEST_PREFIX, go to
+# gtest_discover_tests); a Windows program runs whole, through Wine (see cmake/wine-run.sh), with
+# the prefix that tools/wine-session.sh prepares.
 function(orv_add_test target)
   if(WIN32)
     add_test(NAME ${target} COMMAND ${target})
     set_tests_properties(${target} PROPERTIES LABELS wine TIMEOUT 300)
   else()
     include(GoogleTest)
-    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60)
+    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 60 ${ARGN})
   endif()
 endfunction()
