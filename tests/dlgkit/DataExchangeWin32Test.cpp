@@ -132,7 +132,7 @@ void CALLBACK CloseErrorBox(HWND, UINT, UINT_PTR, DWORD) {
   char buffer[128] = {};
   ::GetWindowTextA(box, buffer, sizeof buffer);
   g_box.caption = buffer;
-  ::GetDlgItemTextA(box, 0xFFFF, buffer, sizeof buffer);  // a message box's text control
+  ::GetDlgItemTextA(box, 101, buffer, sizeof buffer);  // the program box's text control
   g_box.text = buffer;
   g_box.owner = ::GetWindow(box, GW_OWNER);
   ::PostMessageA(box, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), 0);

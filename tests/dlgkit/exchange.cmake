@@ -3,10 +3,12 @@ list(APPEND ORV_DLGKIT_TEST_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/DataExchangeTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/StrHashTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/HeadlessRunnerTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MessageBoxLayoutTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsStoreTest.cpp
 )
 list(APPEND ORV_DLGKIT_WIN32_TEST_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/DataExchangeWin32Test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/DialogHostWin32Test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/MessageBoxWin32Test.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsStoreWin32Test.cpp
 )

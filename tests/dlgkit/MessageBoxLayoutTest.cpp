@@ -1,0 +1,129 @@
+// The program's message box without windows: what flags ask for, the template, how the box
+// grows around its text, what Ctrl+C copies, mnemonics and the answers to commands.
+#include "dlgkit/MessageBoxLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace {
+
+using orv::DialogUnitRect;
+using orv::MessageBoxSpecFromFlags;
+
+std::vector<int> Ids(const orv::MessageBoxSpec& spec) {
+  std::vector<int> ids;
+  for (const auto& b : spec.buttons) ids.push_back(b.id);
+  return ids;
+}
+
+TEST(MessageBoxSpec, ButtonsAndCancelByTheLowBits) {
+  struct Row {
+    unsigned flags;
+    std::vector<int> ids;
+    int cancel;
+  };
+  const Row rows[] = {
+      {0, {1}, 1},          {1, {1, 2}, 2},       {2, {3, 4, 5}, -1}, {3, {6, 7, 2}, 2},
+      {4, {6, 7}, -1},      {5, {4, 2}, 2},       {6, {2, 10, 11}, -1},
+      {7, {1}, 1},          {15, {1}, 1},         {0x34, {6, 7}, -1},  // icon bits don't matter
+  };
+  for (const Row& row : rows) {
+    const auto spec = MessageBoxSpecFromFlags(row.flags);
+    EXPECT_EQ(Ids(spec), row.ids) << "flags " << row.flags;
+    EXPECT_EQ(spec.cancelId, row.cancel) << "flags " << row.flags;
+  }
+  EXPECT_STREQ(MessageBoxSpecFromFlags(6).buttons[1].text, "&Try Again");
+}
+
+TEST(MessageBoxSpec, IconAndDefaultButton) {
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x00).iconResource, 0);
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x10).iconResource, 32513);
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x20).iconResource, 32514);
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x30).iconResource, 32515);
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x40).iconResource, 32516);
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x50).iconResource, 0);
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x70).iconResource, 0);
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x003).defaultIndex, 0);
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x103).defaultIndex, 1);
+  EXPECT_EQ(MessageBoxSpecFromFlags(0x203).defaultIndex, 2);
+  // The third of two buttons: none is marked.
+  const auto twoButtons = MessageBoxSpecFromFlags(0x204);
+  EXPECT_GE(twoButtons.defaultIndex, static_cast<int>(twoButtons.buttons.size()));
+}
+
+TEST(MessageBoxTemplate, SizesAndPlacesInDialogUnits) {
+  const auto plain = orv::MessageBoxTemplateFor(MessageBoxSpecFromFlags(4));
+  EXPECT_EQ(plain.cx, 2 * 55 + 25);
+  EXPECT_EQ(plain.cy, 63);
+  EXPECT_EQ(plain.text, (DialogUnitRect{7, 14, 217, 250}));
+  ASSERT_EQ(plain.buttons.size(), 2u);
+  EXPECT_EQ(plain.buttons[0], (DialogUnitRect{24, 43, 51, 14}));
+  EXPECT_EQ(plain.buttons[1], (DialogUnitRect{79, 43, 51, 14}));
+
+  const auto withIcon = orv::MessageBoxTemplateFor(MessageBoxSpecFromFlags(0x33));
+  EXPECT_EQ(withIcon.cx, 3 * 55 + 25);
+  EXPECT_EQ(withIcon.cy, 71);
+  EXPECT_EQ(withIcon.icon, (DialogUnitRect{15, 14, 16, 16}));
+  EXPECT_EQ(withIcon.text.x, 37);
+  EXPECT_EQ(withIcon.buttons[2], (DialogUnitRect{134, 51, 51, 14}));
+  // The text's room ends above the buttons.
+  EXPECT_LE(withIcon.text.y + withIcon.textRoom, withIcon.buttons[0].y);
+  EXPECT_GT(withIcon.textRoom, plain.textRoom);
+}
+
+TEST(MessageBoxFit, GrowsOnlyForWhatTheTextNeeds) {
+  // Pixels: text at top 21 with 36 of room, icon 21..45, 100 wide beside the buttons.
+  auto fit = orv::FitMessageBoxText(21, 36, false, 0, 0, 0, 0, 100);  // empty text
+  EXPECT_EQ(fit.growWidth, 0);
+  EXPECT_EQ(fit.growHeight, 0);
+  EXPECT_EQ(fit.textTop, 21);
+
+  fit = orv::FitMessageBoxText(21, 36, true, 21, 24, 60, 10, 100);  // one short line beside an icon
+  EXPECT_EQ(fit.textTop, 28) << "centred on the icon";
+  EXPECT_EQ(fit.growHeight, 0);
+
+  fit = orv::FitMessageBoxText(21, 36, true, 21, 24, 60, 13, 100);  // not below half the icon
+  EXPECT_EQ(fit.textTop, 21);
+
+  fit = orv::FitMessageBoxText(21, 36, false, 0, 0, 90, 130, 100);  // ten lines
+  EXPECT_EQ(fit.growHeight, 130 - 36);
+  EXPECT_EQ(fit.growWidth, 0);
+  EXPECT_EQ(fit.textHeight, 130);
+
+  fit = orv::FitMessageBoxText(21, 36, false, 0, 0, 320, 26, 100);  // wider than the buttons
+  EXPECT_EQ(fit.growWidth, 220);
+  EXPECT_EQ(fit.growHeight, 0);
+}
+
+TEST(MessageBoxText, OneTrailingNewlineIsDropped) {
+  EXPECT_EQ(orv::MessageBoxShownText("Done.\n"), "Done.");
+  EXPECT_EQ(orv::MessageBoxShownText("Done.\r\n"), "Done.");
+  EXPECT_EQ(orv::MessageBoxShownText("Done.\n\n"), "Done.\n");
+  EXPECT_EQ(orv::MessageBoxShownText(""), "");
+  EXPECT_EQ(orv::MessageBoxShownText("\n"), "");
+}
+
+TEST(MessageBoxText, CtrlCCopiesAsThePlatformsBox) {
+  const std::string rule = "---------------------------\r\n";
+  EXPECT_EQ(orv::MessageBoxClipboardText("Trendline", "First line\nsecond\r\nthird", MessageBoxSpecFromFlags(4)),
+            rule + "Trendline\r\n" + rule + "First line\r\nsecond\r\nthird\r\n" + rule + "Yes   No   \r\n" + rule);
+  EXPECT_EQ(orv::MessageBoxClipboardText("", "", MessageBoxSpecFromFlags(0)),
+            rule + "\r\n" + rule + "\r\n" + rule + "OK   \r\n" + rule);
+}
+
+TEST(MessageBoxKeys, MnemonicsAndCommands) {
+  const auto yesNo = MessageBoxSpecFromFlags(4);
+  EXPECT_EQ(orv::MessageBoxMnemonic(yesNo, 'y'), 6);
+  EXPECT_EQ(orv::MessageBoxMnemonic(yesNo, 'N'), 7);
+  EXPECT_EQ(orv::MessageBoxMnemonic(yesNo, 'c'), 0);
+  EXPECT_EQ(orv::MessageBoxMnemonic(MessageBoxSpecFromFlags(1), 'o'), 0) << "OK has no mnemonic";
+  EXPECT_EQ(orv::MessageBoxMnemonic(MessageBoxSpecFromFlags(6), 't'), 10);
+
+  EXPECT_EQ(orv::MessageBoxCommandResult(yesNo, 2), 0) << "Esc is ignored without a way to cancel";
+  EXPECT_EQ(orv::MessageBoxCommandResult(yesNo, 7), 7);
+  EXPECT_EQ(orv::MessageBoxCommandResult(MessageBoxSpecFromFlags(0), 2), 1) << "Esc on OK alone gives OK";
+  EXPECT_EQ(orv::MessageBoxCommandResult(MessageBoxSpecFromFlags(3), 2), 2);
+}
+
+}  // namespace

@@ -1,0 +1,228 @@
+// The program's message box on the screen: real boxes driven as a user would (keys, the Close
+// box), their size around the text, modality to the owner, Ctrl+C, and pictures to look at
+// (written to the test's working folder as msgbox-*.png).
+#include <windows.h>
+#include <objbase.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "WindowCapture.h"
+#include "dlgkit/MessageBox.h"
+
+namespace {
+
+// Runs `drive` on the box once it is up (from a timer of this thread), then shows the box.
+class BoxDriver {
+ public:
+  explicit BoxDriver(std::function<void(HWND)> drive) : drive_(std::move(drive)) {
+    current_ = this;
+    timer_ = SetTimer(nullptr, 0, 50, &BoxDriver::Tick);
+  }
+  ~BoxDriver() {
+    KillTimer(nullptr, timer_);
+    current_ = nullptr;
+  }
+  HWND box() const { return box_; }
+
+ private:
+  static BOOL CALLBACK Find(HWND window, LPARAM found) {
+    if (IsWindowVisible(window) && GetDlgItem(window, 101) != nullptr) {
+      *reinterpret_cast<HWND*>(found) = window;
+      return FALSE;
+    }
+    return TRUE;
+  }
+  static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
+    BoxDriver* self = current_;
+    if (self == nullptr || self->done_) return;
+    HWND box = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), Find, reinterpret_cast<LPARAM>(&box));
+    if (box == nullptr) return;
+    self->done_ = true;
+    self->box_ = box;
+    self->drive_(box);
+  }
+  static inline BoxDriver* current_ = nullptr;
+  std::function<void(HWND)> drive_;
+  UINT_PTR timer_ = 0;
+  bool done_ = false;
+  HWND box_ = nullptr;
+};
+
+void Press(HWND box, int id) { PostMessageW(box, WM_COMMAND, MAKEWPARAM(id, 0), 0); }
+
+SIZE WindowSize(HWND window) {
+  RECT r;
+  GetWindowRect(window, &r);
+  return {r.right - r.left, r.bottom - r.top};
+}
+
+RECT ChildRect(HWND box, int id) {
+  RECT r{};
+  GetWindowRect(GetDlgItem(box, id), &r);
+  MapWindowPoints(nullptr, box, reinterpret_cast<POINT*>(&r), 2);
+  return r;
+}
+
+void Picture(HWND box, const wchar_t* name) {
+  UpdateWindow(box);
+  EXPECT_EQ(orv::apps::CaptureWindowToPng(box, name), S_OK) << "screenshot";
+}
+
+class MessageBoxWin32 : public ::testing::Test {
+ protected:
+  void SetUp() override { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
+  void TearDown() override { CoUninitialize(); }
+};
+
+TEST_F(MessageBoxWin32, EscOnOkAloneGivesOkAndTheBoxIsGone) {
+  HWND seen = nullptr;
+  BoxDriver driver([&](HWND box) {
+    seen = box;
+    wchar_t caption[64] = {};
+    GetWindowTextW(box, caption, 64);
+    EXPECT_STREQ(caption, L"Trendline");
+    Picture(box, L"msgbox-ok.png");
+    Press(box, IDCANCEL);  // what Esc and the Close box send
+  });
+  EXPECT_EQ(OrvMessageBox(nullptr, "The study has been saved.", "Trendline", 0), IDOK);
+  EXPECT_FALSE(IsWindow(seen));
+}
+
+TEST_F(MessageBoxWin32, YesNoCannotBeCancelledAndAnswersByMnemonic) {
+  bool closeGray = false;
+  BoxDriver driver([&](HWND box) {
+    closeGray = (GetMenuState(GetSystemMenu(box, FALSE), SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED) != 0;
+    Picture(box, L"msgbox-yesno.png");
+    Press(box, IDCANCEL);                          // ignored
+    PostMessageW(GetDlgItem(box, IDYES), WM_CHAR, 'n', 0);  // the mnemonic of "&No"
+  });
+  EXPECT_EQ(OrvMessageBox(nullptr, "Delete the line?", "Custom Lines", MB_YESNO | MB_ICONQUESTION), IDNO);
+  EXPECT_TRUE(closeGray);
+}
+
+TEST_F(MessageBoxWin32, DefaultButtonByFlags) {
+  auto isDefault = [](HWND box, int id) {
+    return (GetWindowLongW(GetDlgItem(box, id), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON;
+  };
+  bool yes = true, no = false;
+  BoxDriver second([&](HWND box) {
+    yes = isDefault(box, IDYES), no = isDefault(box, IDNO);
+    Press(box, IDYES);
+  });
+  EXPECT_EQ(OrvMessageBox(nullptr, "Go on?", "Box", MB_YESNO | MB_DEFBUTTON2), IDYES);
+  EXPECT_FALSE(yes);
+  EXPECT_TRUE(no);
+}
+
+TEST_F(MessageBoxWin32, NoButtonIsDefaultWhenTheFlagNamesAThirdOfTwo) {
+  bool anyDefault = true;
+  BoxDriver driver([&](HWND box) {
+    anyDefault = false;
+    for (int id : {IDYES, IDNO})
+      anyDefault |= (GetWindowLongW(GetDlgItem(box, id), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON;
+    Press(box, IDNO);
+  });
+  EXPECT_EQ(OrvMessageBox(nullptr, "Go on?", "Box", MB_YESNO | MB_DEFBUTTON3), IDNO);
+  EXPECT_FALSE(anyDefault);
+}
+
+TEST_F(MessageBoxWin32, ManyLinesGrowTheBoxAndMoveTheButtonsBelowTheText) {
+  SIZE empty{}, tall{};
+  RECT text{}, button{};
+  {
+    BoxDriver driver([&](HWND box) {
+      empty = WindowSize(box);
+      Press(box, IDOK);
+    });
+    OrvMessageBox(nullptr, "", "Box", MB_OKCANCEL);
+  }
+  {
+    BoxDriver driver([&](HWND box) {
+      tall = WindowSize(box);
+      text = ChildRect(box, 101);
+      button = ChildRect(box, IDOK);
+      Picture(box, L"msgbox-tall.png");
+      Press(box, IDOK);
+    });
+    OrvMessageBox(nullptr, "One\nTwo\nThree\nFour\nFive\nSix\nSeven\nEight", "Box", MB_OKCANCEL | MB_ICONEXCLAMATION);
+  }
+  EXPECT_GT(tall.cy, empty.cy + 40);
+  EXPECT_LE(text.bottom, button.top) << "the buttons sit below the text";
+}
+
+TEST_F(MessageBoxWin32, ALongLineWidensTheBoxUpToTheTextWidth) {
+  SIZE narrow{}, wide{};
+  RECT text{}, client{};
+  {
+    BoxDriver driver([&](HWND box) { narrow = WindowSize(box), Press(box, IDOK); });
+    OrvMessageBox(nullptr, "Short.", "Box", 0);
+  }
+  {
+    BoxDriver driver([&](HWND box) {
+      wide = WindowSize(box);
+      text = ChildRect(box, 101);
+      GetClientRect(box, &client);
+      Press(box, IDOK);
+    });
+    OrvMessageBox(nullptr, "A single line of text that is a good deal wider than one OK button.", "Box", 0);
+  }
+  EXPECT_GT(wide.cx, narrow.cx);
+  EXPECT_LE(text.right, client.right) << "the text is not cut off";
+}
+
+TEST_F(MessageBoxWin32, ModalToAVisibleOwnerAndCtrlCCopiesTheBox) {
+  HWND owner = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 10, 10, 300, 200,
+                               nullptr, nullptr, nullptr, nullptr);
+  ASSERT_NE(owner, nullptr);
+  bool ownerEnabledDuring = true;
+  HWND boxOwner = nullptr;
+  BoxDriver driver([&](HWND box) {
+    ownerEnabledDuring = IsWindowEnabled(owner);
+    boxOwner = GetWindow(box, GW_OWNER);
+    // Ctrl held as the keyboard state of this thread, then C.
+    BYTE keys[256];
+    GetKeyboardState(keys);
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys);
+    SendMessageW(box, WM_NULL, 0, 0);
+    PostMessageW(GetDlgItem(box, IDOK), WM_KEYDOWN, 'C', 0);
+    PostMessageW(box, WM_COMMAND, MAKEWPARAM(IDOK, 0), 0);
+  });
+  EXPECT_EQ(OrvMessageBox(owner, "Copied.", "Box", 0), IDOK);
+  BYTE keys[256];
+  GetKeyboardState(keys);
+  keys[VK_CONTROL] = 0;
+  SetKeyboardState(keys);
+  EXPECT_FALSE(ownerEnabledDuring);
+  EXPECT_EQ(boxOwner, owner);
+  EXPECT_TRUE(IsWindowEnabled(owner));
+
+  ASSERT_TRUE(OpenClipboard(nullptr));
+  HANDLE data = GetClipboardData(CF_UNICODETEXT);
+  std::wstring copied = data ? static_cast<const wchar_t*>(GlobalLock(data)) : L"";
+  if (data) GlobalUnlock(data);
+  CloseClipboard();
+  const std::wstring rule = L"---------------------------\r\n";
+  EXPECT_EQ(copied, rule + L"Box\r\n" + rule + L"Copied.\r\n" + rule + L"OK   \r\n" + rule);
+  DestroyWindow(owner);
+}
+
+TEST_F(MessageBoxWin32, AnInvisibleOwnerCountsAsNone) {
+  HWND hidden = CreateWindowExW(0, L"STATIC", L"hidden", WS_OVERLAPPEDWINDOW, 10, 10, 300, 200, nullptr, nullptr,
+                                nullptr, nullptr);
+  HWND boxOwner = reinterpret_cast<HWND>(1);
+  BoxDriver driver([&](HWND box) {
+    boxOwner = GetWindow(box, GW_OWNER);
+    Press(box, IDOK);
+  });
+  EXPECT_EQ(OrvMessageBox(hidden, "Text", "Box", 0), IDOK);
+  EXPECT_EQ(boxOwner, nullptr);
+  EXPECT_TRUE(IsWindowEnabled(hidden));
+  DestroyWindow(hidden);
+}
+
+}  // namespace
