@@ -24,38 +24,38 @@ constexpr int kTextGap = 7;    // kept between the text and the buttons
 
 }  // namespace
 
-MessageBoxSpec MessageBoxSpecFromFlags(unsigned flags) {
-  MessageBoxSpec spec;
+MessageBoxStyle MessageBoxStyleFromFlags(unsigned flags) {
+  MessageBoxStyle style;
   switch (flags & 15u) {
-    case 1: spec.buttons = {kOk, kCancel}; break;
-    case 2: spec.buttons = {kAbort, kRetry, kIgnore}, spec.cancelId = -1; break;
-    case 3: spec.buttons = {kYes, kNo, kCancel}; break;
-    case 4: spec.buttons = {kYes, kNo}, spec.cancelId = -1; break;
-    case 5: spec.buttons = {kRetry, kCancel}; break;
-    case 6: spec.buttons = {kCancel, kTryAgain, kContinue}, spec.cancelId = -1; break;
-    default: spec.buttons = {kOk}, spec.cancelId = 1; break;
+    case 1: style.buttons = {kOk, kCancel}; break;
+    case 2: style.buttons = {kAbort, kRetry, kIgnore}, style.cancelId = -1; break;
+    case 3: style.buttons = {kYes, kNo, kCancel}; break;
+    case 4: style.buttons = {kYes, kNo}, style.cancelId = -1; break;
+    case 5: style.buttons = {kRetry, kCancel}; break;
+    case 6: style.buttons = {kCancel, kTryAgain, kContinue}, style.cancelId = -1; break;
+    default: style.buttons = {kOk}, style.cancelId = 1; break;
   }
   switch (flags & 0x70u) {
-    case 0x10: spec.iconResource = 32513; break;  // hand
-    case 0x20: spec.iconResource = 32514; break;  // question
-    case 0x30: spec.iconResource = 32515; break;  // exclamation
-    case 0x40: spec.iconResource = 32516; break;  // asterisk
+    case 0x10: style.iconResource = 32513; break;  // hand
+    case 0x20: style.iconResource = 32514; break;  // question
+    case 0x30: style.iconResource = 32515; break;  // exclamation
+    case 0x40: style.iconResource = 32516; break;  // asterisk
     default: break;
   }
-  spec.defaultIndex = static_cast<int>((flags >> 8) & 3u);
-  return spec;
+  style.defaultIndex = static_cast<int>((flags >> 8) & 3u);
+  return style;
 }
 
-MessageBoxTemplate MessageBoxTemplateFor(const MessageBoxSpec& spec) {
-  const bool icon = spec.iconResource != 0;
+MessageBoxTemplate MessageBoxTemplateFor(const MessageBoxStyle& style) {
+  const bool icon = style.iconResource != 0;
   const int shift = icon ? kIconShift : 0;
   MessageBoxTemplate t{};
-  t.cx = static_cast<int>(spec.buttons.size()) * kButtonStep + 25;
+  t.cx = static_cast<int>(style.buttons.size()) * kButtonStep + 25;
   t.cy = 63 + shift;
   t.icon = {15, 14, 16, 16};
   t.text = {icon ? 37 : 7, 14, 217, 250};
   const int buttonsTop = 43 + shift;
-  for (std::size_t i = 0; i < spec.buttons.size(); ++i)
+  for (std::size_t i = 0; i < style.buttons.size(); ++i)
     t.buttons.push_back({24 + static_cast<int>(i) * kButtonStep, buttonsTop, kButtonWidth, kButtonHeight});
   t.textRoom = buttonsTop - kTextGap - t.text.y;
   return t;
@@ -81,7 +81,7 @@ std::string_view MessageBoxShownText(std::string_view text) {
   return text;
 }
 
-std::string MessageBoxClipboardText(std::string_view caption, std::string_view text, const MessageBoxSpec& spec) {
+std::string MessageBoxClipboardText(std::string_view caption, std::string_view text, const MessageBoxStyle& style) {
   const std::string rule = std::string(27, '-') + "\r\n";
   std::string out = rule;
   out.append(caption).append("\r\n").append(rule);
@@ -94,7 +94,7 @@ std::string MessageBoxClipboardText(std::string_view caption, std::string_view t
     }
   }
   out.append("\r\n").append(rule);
-  for (const MessageBoxButton& button : spec.buttons) {
+  for (const MessageBoxButton& button : style.buttons) {
     for (const char* c = button.text; *c; ++c)
       if (*c != '&') out += *c;
     out += "   ";
@@ -103,18 +103,18 @@ std::string MessageBoxClipboardText(std::string_view caption, std::string_view t
   return out;
 }
 
-int MessageBoxMnemonic(const MessageBoxSpec& spec, char key) {
+int MessageBoxMnemonic(const MessageBoxStyle& style, char key) {
   const int wanted = std::toupper(static_cast<unsigned char>(key));
-  for (const MessageBoxButton& button : spec.buttons) {
+  for (const MessageBoxButton& button : style.buttons) {
     const char* amp = std::char_traits<char>::find(button.text, std::char_traits<char>::length(button.text), '&');
     if (amp && amp[1] && std::toupper(static_cast<unsigned char>(amp[1])) == wanted) return button.id;
   }
   return 0;
 }
 
-int MessageBoxCommandResult(const MessageBoxSpec& spec, int id) {
+int MessageBoxCommandResult(const MessageBoxStyle& style, int id) {
   if (id != 2) return id;
-  return spec.cancelId == -1 ? 0 : spec.cancelId;
+  return style.cancelId == -1 ? 0 : style.cancelId;
 }
 
 }  // namespace orv

@@ -15,7 +15,7 @@ struct MessageBoxButton {
   const char* text;  // with its "&" mnemonic where it has one
 };
 
-struct MessageBoxSpec {
+struct MessageBoxStyle {
   std::vector<MessageBoxButton> buttons;  // in display order
   int cancelId = 2;         // what Esc and the Close box give; -1: the box cannot be cancelled
   int iconResource = 0;     // the platform's stock icon (32513 ...), 0 for none
@@ -23,7 +23,7 @@ struct MessageBoxSpec {
 };
 
 // The buttons (flags & 15), the icon (flags & 0x70) and the default button ((flags >> 8) & 3).
-MessageBoxSpec MessageBoxSpecFromFlags(unsigned flags);
+MessageBoxStyle MessageBoxStyleFromFlags(unsigned flags);
 
 struct DialogUnitRect {
   int x, y, cx, cy;
@@ -40,12 +40,12 @@ struct MessageBoxTemplate {
   int cx, cy;                           // the dialog
   DialogUnitRect icon;                  // shown only with an icon
   DialogUnitRect text;
-  std::vector<DialogUnitRect> buttons;  // as the spec lists them
+  std::vector<DialogUnitRect> buttons;  // as the style lists them
   // The height the template leaves the text: the band from its top to the buttons' top, less
   // the gap kept between them. A text taller than this grows the box.
   int textRoom;
 };
-MessageBoxTemplate MessageBoxTemplateFor(const MessageBoxSpec& spec);
+MessageBoxTemplate MessageBoxTemplateFor(const MessageBoxStyle& style);
 
 // How a shown box fits its text, in pixels. Given: the text control's rectangle and the icon's
 // (both as laid out), the measured text (word-broken at the text control's width), and the
@@ -64,13 +64,13 @@ std::string_view MessageBoxShownText(std::string_view text);
 
 // What Ctrl+C copies, as the platform's own box does: lines of 27 hyphens around the caption,
 // the text (newlines as CR LF) and the buttons' texts (without "&", each followed by three blanks).
-std::string MessageBoxClipboardText(std::string_view caption, std::string_view text, const MessageBoxSpec& spec);
+std::string MessageBoxClipboardText(std::string_view caption, std::string_view text, const MessageBoxStyle& style);
 
 // The button whose mnemonic is `key` (either case), or 0.
-int MessageBoxMnemonic(const MessageBoxSpec& spec, char key);
+int MessageBoxMnemonic(const MessageBoxStyle& style, char key);
 
 // The box's answer to a button's command: id 2 (Esc, the Close box) gives the cancel id, or is
 // ignored (0) when the box cannot be cancelled; any other id is the result.
-int MessageBoxCommandResult(const MessageBoxSpec& spec, int id);
+int MessageBoxCommandResult(const MessageBoxStyle& style, int id);
 
 }  // namespace orv

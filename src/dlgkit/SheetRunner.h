@@ -1,7 +1,7 @@
 #pragma once
 // The kit's property sheet: pages in order, a caption, OK / Cancel / Apply (or a wizard's Back /
 // Next / Finish), run modally. The sheet code (CLsPs, the seasonal wizard) describes its sheet
-// in a SheetSpec and hands it to a runner: the platform's PropertySheet on Windows
+// in a SheetSetup and hands it to a runner: the platform's PropertySheet on Windows
 // (CreatePlatformSheetRunner), or HeadlessSheetRunner (fake/) in tests, which drives the same
 // pages in the same order without windows.
 
@@ -23,7 +23,7 @@ struct SheetPage {
   int dialogId = 0;      // its dialog template in the resource module
 };
 
-struct SheetSpec {
+struct SheetSetup {
   std::string title;  // set with PSM_SETTITLE once the sheet is up; an empty caption stays empty
   std::vector<SheetPage> pages;
   bool wizard = false;
@@ -50,7 +50,7 @@ class SheetRunner {
   // Runs the sheet modally. The result is PropertySheet's: -1 when the sheet could not be shown,
   // 0 when it closed without a change, positive when changes were applied. An exception thrown by
   // a page or a hook ends the run and is rethrown here, after the sheet's windows are gone.
-  virtual std::intptr_t Run(const SheetSpec& spec) = 0;
+  virtual std::intptr_t Run(const SheetSetup& setup) = 0;
 };
 
 // The platform's sheet: PropertySheetA on Windows; natively a runner that cannot show anything

@@ -61,12 +61,12 @@ long SheetDispatcher::Run(CChartPages* owner, XmlNode doc, IUnknown* chartData, 
     case SheetKind::SeasonalWizard: {
       // Until their pages exist these sheets run empty, with the buttons and the outcome
       // (and, for the wizard, the event after Finish) they will have.
-      orv::SheetSpec spec;
-      spec.wizard = kind == SheetKind::SeasonalWizard;
-      spec.parent = parent;
-      XmlGetAttr(sheet, "Title", spec.title);
-      result = static_cast<long>(orv::CreatePlatformSheetRunner()->Run(spec));
-      if (spec.wizard && result == 1 && owner != nullptr) {
+      orv::SheetSetup setup;
+      setup.wizard = kind == SheetKind::SeasonalWizard;
+      setup.parent = parent;
+      XmlGetAttr(sheet, "Title", setup.title);
+      result = static_cast<long>(orv::CreatePlatformSheetRunner()->Run(setup));
+      if (setup.wizard && result == 1 && owner != nullptr) {
         std::int32_t answer = 0;  // what the host answers changes nothing
         owner->FireStatusEvent(0, XmlGetXml(sheet), 0, std::string(), answer);
       }

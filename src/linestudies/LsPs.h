@@ -74,19 +74,19 @@ class CLsPs : public COrvDialog<CLsPs<T>> {
 
   std::intptr_t DoModal(orv::SheetRunner& runner, orv::WindowHandle parent = nullptr) {
     const auto table = orv::LsPageTable();
-    orv::SheetSpec spec;
-    spec.title = title_;
-    spec.parent = parent;
-    for (std::size_t slot : tabs_) spec.pages.push_back({&slots_[slot]->AsPage(), table[slot].dialogId});
+    orv::SheetSetup setup;
+    setup.title = title_;
+    setup.parent = parent;
+    for (std::size_t slot : tabs_) setup.pages.push_back({&slots_[slot]->AsPage(), table[slot].dialogId});
     // The sheet is a themed dialog too: its own children (tabs, buttons) get the host's theme.
-    spec.onInitialized = [this](orv::WindowHandle window, orv::WindowOps& ops) {
+    setup.onInitialized = [this](orv::WindowHandle window, orv::WindowOps& ops) {
       window_ = window;
       this->AttachWindow(ops, window);
       this->SubclassControls();
       this->LoadTheme();
     };
-    spec.onPageApply = [this](int dialogId) { return OnPageApply(dialogId); };
-    spec.onSheetMessage = [this](unsigned message, std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result) {
+    setup.onPageApply = [this](int dialogId) { return OnPageApply(dialogId); };
+    setup.onSheetMessage = [this](unsigned message, std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result) {
       if (!window_) return false;
       return this->ProcessThemeMessage(window_, message, wParam, lParam, result) ||
              this->ReflectNotifications(window_, message, wParam, lParam, result);
@@ -96,7 +96,7 @@ class CLsPs : public COrvDialog<CLsPs<T>> {
       orv::WindowHandle& window;
       ~Detach() { window = nullptr; }
     } detach{window_};
-    return runner.Run(spec);
+    return runner.Run(setup);
   }
 
   // kWmLsPageApply: a page with `dialogId` applies. Builds the document holding that page alone

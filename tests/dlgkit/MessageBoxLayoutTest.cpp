@@ -9,15 +9,15 @@
 namespace {
 
 using orv::DialogUnitRect;
-using orv::MessageBoxSpecFromFlags;
+using orv::MessageBoxStyleFromFlags;
 
-std::vector<int> Ids(const orv::MessageBoxSpec& spec) {
+std::vector<int> Ids(const orv::MessageBoxStyle& style) {
   std::vector<int> ids;
-  for (const auto& b : spec.buttons) ids.push_back(b.id);
+  for (const auto& b : style.buttons) ids.push_back(b.id);
   return ids;
 }
 
-TEST(MessageBoxSpec, ButtonsAndCancelByTheLowBits) {
+TEST(MessageBoxStyle, ButtonsAndCancelByTheLowBits) {
   struct Row {
     unsigned flags;
     std::vector<int> ids;
@@ -29,31 +29,31 @@ TEST(MessageBoxSpec, ButtonsAndCancelByTheLowBits) {
       {7, {1}, 1},          {15, {1}, 1},         {0x34, {6, 7}, -1},  // icon bits don't matter
   };
   for (const Row& row : rows) {
-    const auto spec = MessageBoxSpecFromFlags(row.flags);
-    EXPECT_EQ(Ids(spec), row.ids) << "flags " << row.flags;
-    EXPECT_EQ(spec.cancelId, row.cancel) << "flags " << row.flags;
+    const auto style = MessageBoxStyleFromFlags(row.flags);
+    EXPECT_EQ(Ids(style), row.ids) << "flags " << row.flags;
+    EXPECT_EQ(style.cancelId, row.cancel) << "flags " << row.flags;
   }
-  EXPECT_STREQ(MessageBoxSpecFromFlags(6).buttons[1].text, "&Try Again");
+  EXPECT_STREQ(MessageBoxStyleFromFlags(6).buttons[1].text, "&Try Again");
 }
 
-TEST(MessageBoxSpec, IconAndDefaultButton) {
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x00).iconResource, 0);
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x10).iconResource, 32513);
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x20).iconResource, 32514);
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x30).iconResource, 32515);
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x40).iconResource, 32516);
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x50).iconResource, 0);
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x70).iconResource, 0);
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x003).defaultIndex, 0);
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x103).defaultIndex, 1);
-  EXPECT_EQ(MessageBoxSpecFromFlags(0x203).defaultIndex, 2);
+TEST(MessageBoxStyle, IconAndDefaultButton) {
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x00).iconResource, 0);
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x10).iconResource, 32513);
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x20).iconResource, 32514);
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x30).iconResource, 32515);
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x40).iconResource, 32516);
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x50).iconResource, 0);
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x70).iconResource, 0);
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x003).defaultIndex, 0);
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x103).defaultIndex, 1);
+  EXPECT_EQ(MessageBoxStyleFromFlags(0x203).defaultIndex, 2);
   // The third of two buttons: none is marked.
-  const auto twoButtons = MessageBoxSpecFromFlags(0x204);
+  const auto twoButtons = MessageBoxStyleFromFlags(0x204);
   EXPECT_GE(twoButtons.defaultIndex, static_cast<int>(twoButtons.buttons.size()));
 }
 
 TEST(MessageBoxTemplate, SizesAndPlacesInDialogUnits) {
-  const auto plain = orv::MessageBoxTemplateFor(MessageBoxSpecFromFlags(4));
+  const auto plain = orv::MessageBoxTemplateFor(MessageBoxStyleFromFlags(4));
   EXPECT_EQ(plain.cx, 2 * 55 + 25);
   EXPECT_EQ(plain.cy, 63);
   EXPECT_EQ(plain.text, (DialogUnitRect{7, 14, 217, 250}));
@@ -61,7 +61,7 @@ TEST(MessageBoxTemplate, SizesAndPlacesInDialogUnits) {
   EXPECT_EQ(plain.buttons[0], (DialogUnitRect{24, 43, 51, 14}));
   EXPECT_EQ(plain.buttons[1], (DialogUnitRect{79, 43, 51, 14}));
 
-  const auto withIcon = orv::MessageBoxTemplateFor(MessageBoxSpecFromFlags(0x33));
+  const auto withIcon = orv::MessageBoxTemplateFor(MessageBoxStyleFromFlags(0x33));
   EXPECT_EQ(withIcon.cx, 3 * 55 + 25);
   EXPECT_EQ(withIcon.cy, 71);
   EXPECT_EQ(withIcon.icon, (DialogUnitRect{15, 14, 16, 16}));
@@ -106,24 +106,24 @@ TEST(MessageBoxText, OneTrailingNewlineIsDropped) {
 
 TEST(MessageBoxText, CtrlCCopiesAsThePlatformsBox) {
   const std::string rule = "---------------------------\r\n";
-  EXPECT_EQ(orv::MessageBoxClipboardText("Trendline", "First line\nsecond\r\nthird", MessageBoxSpecFromFlags(4)),
+  EXPECT_EQ(orv::MessageBoxClipboardText("Trendline", "First line\nsecond\r\nthird", MessageBoxStyleFromFlags(4)),
             rule + "Trendline\r\n" + rule + "First line\r\nsecond\r\nthird\r\n" + rule + "Yes   No   \r\n" + rule);
-  EXPECT_EQ(orv::MessageBoxClipboardText("", "", MessageBoxSpecFromFlags(0)),
+  EXPECT_EQ(orv::MessageBoxClipboardText("", "", MessageBoxStyleFromFlags(0)),
             rule + "\r\n" + rule + "\r\n" + rule + "OK   \r\n" + rule);
 }
 
 TEST(MessageBoxKeys, MnemonicsAndCommands) {
-  const auto yesNo = MessageBoxSpecFromFlags(4);
+  const auto yesNo = MessageBoxStyleFromFlags(4);
   EXPECT_EQ(orv::MessageBoxMnemonic(yesNo, 'y'), 6);
   EXPECT_EQ(orv::MessageBoxMnemonic(yesNo, 'N'), 7);
   EXPECT_EQ(orv::MessageBoxMnemonic(yesNo, 'c'), 0);
-  EXPECT_EQ(orv::MessageBoxMnemonic(MessageBoxSpecFromFlags(1), 'o'), 0) << "OK has no mnemonic";
-  EXPECT_EQ(orv::MessageBoxMnemonic(MessageBoxSpecFromFlags(6), 't'), 10);
+  EXPECT_EQ(orv::MessageBoxMnemonic(MessageBoxStyleFromFlags(1), 'o'), 0) << "OK has no mnemonic";
+  EXPECT_EQ(orv::MessageBoxMnemonic(MessageBoxStyleFromFlags(6), 't'), 10);
 
   EXPECT_EQ(orv::MessageBoxCommandResult(yesNo, 2), 0) << "Esc is ignored without a way to cancel";
   EXPECT_EQ(orv::MessageBoxCommandResult(yesNo, 7), 7);
-  EXPECT_EQ(orv::MessageBoxCommandResult(MessageBoxSpecFromFlags(0), 2), 1) << "Esc on OK alone gives OK";
-  EXPECT_EQ(orv::MessageBoxCommandResult(MessageBoxSpecFromFlags(3), 2), 2);
+  EXPECT_EQ(orv::MessageBoxCommandResult(MessageBoxStyleFromFlags(0), 2), 1) << "Esc on OK alone gives OK";
+  EXPECT_EQ(orv::MessageBoxCommandResult(MessageBoxStyleFromFlags(3), 2), 2);
 }
 
 }  // namespace

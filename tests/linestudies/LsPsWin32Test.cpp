@@ -181,14 +181,14 @@ class ThrowingPage final : public orv::Page {
 
 TEST_F(LsPsWin32, RunnerRethrowsPageFailureAndKeepsEmptyCaption) {
   ThrowingPage page;
-  orv::SheetSpec spec;
-  spec.pages.push_back({&page, IDD_LS_PG_ADVANCED});
+  orv::SheetSetup setup;
+  setup.pages.push_back({&page, IDD_LS_PG_ADVANCED});
   bool initialized = false;
-  spec.onInitialized = [&](orv::WindowHandle, orv::WindowOps&) { initialized = true; };
+  setup.onInitialized = [&](orv::WindowHandle, orv::WindowOps&) { initialized = true; };
   User user({[&](HWND, HWND pageWindow) { Click(pageWindow, IDC_LS_ATTACH_CHART); }});
   orv::SheetRunnerWin32 runner;
   try {
-    runner.Run(spec);
+    runner.Run(setup);
     ADD_FAILURE() << "no exception";
   } catch (const XmlComError& error) {
     EXPECT_EQ(error.status(), orv::kStatusFail);

@@ -27,7 +27,7 @@ class HeadlessSheetRunner final : public SheetRunner {
   void SetLayout(int dialogId, Layout layout) { layouts_[dialogId] = std::move(layout); }
   void SetScript(Script script) { script_ = std::move(script); }
 
-  std::intptr_t Run(const SheetSpec& spec) override;
+  std::intptr_t Run(const SheetSetup& setup) override;
 
   // During the script: the sheet, and each tab's controls.
   HeadlessRunner& Sheet();

@@ -7,7 +7,7 @@ namespace {
 
 class NoSheetRunner final : public SheetRunner {
  public:
-  std::intptr_t Run(const SheetSpec&) override { return -1; }
+  std::intptr_t Run(const SheetSetup&) override { return -1; }
 };
 
 }  // namespace

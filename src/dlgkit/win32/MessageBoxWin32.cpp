@@ -15,7 +15,7 @@
 
 namespace {
 
-using orv::MessageBoxSpec;
+using orv::MessageBoxStyle;
 
 std::wstring Wide(std::string_view text) {
   if (text.empty()) return {};
@@ -74,27 +74,27 @@ constexpr WORD kStaticAtom = 0x0082;
 class COrvMessageBox : public COrvDialog<COrvMessageBox> {
  public:
   COrvMessageBox(std::string_view text, std::string_view caption, unsigned flags)
-      : text_(orv::MessageBoxShownText(text)), caption_(caption), spec_(orv::MessageBoxSpecFromFlags(flags)) {}
+      : text_(orv::MessageBoxShownText(text)), caption_(caption), style_(orv::MessageBoxStyleFromFlags(flags)) {}
 
   int Run(HWND owner) {
-    const orv::MessageBoxTemplate layout = orv::MessageBoxTemplateFor(spec_);
-    const bool icon = spec_.iconResource != 0;
+    const orv::MessageBoxTemplate layout = orv::MessageBoxTemplateFor(style_);
+    const bool icon = style_.iconResource != 0;
     TemplateWriter t;
-    const int items = static_cast<int>(spec_.buttons.size()) + 1 + (icon ? 1 : 0);
+    const int items = static_cast<int>(style_.buttons.size()) + 1 + (icon ? 1 : 0);
     t.Dialog(DS_SETFONT | DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU, items,
              {0, 0, layout.cx, layout.cy}, Wide(caption_));
     if (icon) t.Item(SS_ICON, layout.icon, orv::kMessageBoxIconId, kStaticAtom, L"");
     t.Item(SS_LEFT | SS_NOPREFIX, layout.text, orv::kMessageBoxTextId, kStaticAtom, L"");
-    for (std::size_t i = 0; i < spec_.buttons.size(); ++i) {
-      const bool isDefault = static_cast<int>(i) == spec_.defaultIndex;
+    for (std::size_t i = 0; i < style_.buttons.size(); ++i) {
+      const bool isDefault = static_cast<int>(i) == style_.defaultIndex;
       t.Item((isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP | (i == 0 ? WS_GROUP : 0),
-             layout.buttons[i], spec_.buttons[i].id, kButtonAtom, Wide(spec_.buttons[i].text));
+             layout.buttons[i], style_.buttons[i].id, kButtonAtom, Wide(style_.buttons[i].text));
     }
     textRoom_ = layout.textRoom;
 
     HINSTANCE module = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<LPCWSTR>(&orv::MessageBoxSpecFromFlags), &module);
+                       reinterpret_cast<LPCWSTR>(&orv::MessageBoxStyleFromFlags), &module);
     HWND box = CreateDialogIndirectParamW(module, t.Get(), owner, &COrvMessageBox::Proc, reinterpret_cast<LPARAM>(this));
     if (box == nullptr) {
       if (failure_) std::rethrow_exception(failure_);
@@ -111,7 +111,7 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
       if (got == 0) {
         if (msg.hwnd == box) break;  // our own quit: the box is done
         PostQuitMessage(static_cast<int>(msg.wParam));  // the host's: hand it back to its loop
-        if (result_ == -1) result_ = spec_.cancelId;
+        if (result_ == -1) result_ = style_.cancelId;
         break;
       }
       if (got == -1) break;
@@ -160,10 +160,10 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
     AttachWindow(orv::DefaultWindowOps(), window);
     SubclassControls();
     LoadTheme();
-    if (spec_.cancelId == -1) EnableMenuItem(GetSystemMenu(window, FALSE), SC_CLOSE, MF_BYCOMMAND | MF_GRAYED);
-    if (spec_.iconResource != 0) {
+    if (style_.cancelId == -1) EnableMenuItem(GetSystemMenu(window, FALSE), SC_CLOSE, MF_BYCOMMAND | MF_GRAYED);
+    if (style_.iconResource != 0) {
       SendDlgItemMessageW(window, orv::kMessageBoxIconId, STM_SETICON,
-                          reinterpret_cast<WPARAM>(LoadIconW(nullptr, MAKEINTRESOURCEW(spec_.iconResource))), 0);
+                          reinterpret_cast<WPARAM>(LoadIconW(nullptr, MAKEINTRESOURCEW(style_.iconResource))), 0);
     }
     SetDlgItemTextA(window, orv::kMessageBoxTextId, text_.c_str());
     FitText(window);
@@ -206,7 +206,7 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
     GetWindowRect(window, &frame);
     SetWindowPos(window, nullptr, 0, 0, frame.right - frame.left + fit.growWidth,
                  frame.bottom - frame.top + fit.growHeight, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    for (const orv::MessageBoxButton& button : spec_.buttons) {
+    for (const orv::MessageBoxButton& button : style_.buttons) {
       HWND control = GetDlgItem(window, button.id);
       const RECT r = Child(window, control);
       SetWindowPos(control, nullptr, r.left + fit.growWidth, r.top + fit.growHeight, 0, 0,
@@ -239,7 +239,7 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
   }
 
   void OnButton(HWND window, int id) {
-    const int result = orv::MessageBoxCommandResult(spec_, id);
+    const int result = orv::MessageBoxCommandResult(style_, id);
     if (result == 0) return;  // Esc or Close on a box that cannot be cancelled
     result_ = result;
     PostMessageW(window, WM_QUIT, 0, 0);
@@ -254,7 +254,7 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
       return true;
     }
     if (msg.message == WM_CHAR && !ctrl && !alt && msg.wParam < 0x80) {
-      if (const int id = orv::MessageBoxMnemonic(spec_, static_cast<char>(msg.wParam))) {
+      if (const int id = orv::MessageBoxMnemonic(style_, static_cast<char>(msg.wParam))) {
         OnButton(box, id);
         return true;
       }
@@ -263,7 +263,7 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
   }
 
   void CopyToClipboard(HWND box) {
-    const std::wstring text = Wide(orv::MessageBoxClipboardText(caption_, text_, spec_));
+    const std::wstring text = Wide(orv::MessageBoxClipboardText(caption_, text_, style_));
     if (!OpenClipboard(box)) return;
     EmptyClipboard();
     const SIZE_T bytes = (text.size() + 1) * sizeof(wchar_t);
@@ -281,7 +281,7 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
 
   std::string text_;
   std::string caption_;
-  MessageBoxSpec spec_;
+  MessageBoxStyle style_;
   int textRoom_ = 0;
   int result_ = -1;
   HWND window_ = nullptr;

@@ -22,7 +22,7 @@ constexpr UINT_PTR kSheetSubclassId = 0x4F525653;  // one subclass per sheet win
 // through the thread: PSCB_INITIALIZED comes during PropertySheetA, before any nested run can
 // start, and a nested run restores the outer one when it ends.
 struct SheetRun {
-  const SheetSpec* spec = nullptr;
+  const SheetSetup* setup = nullptr;
   HWND sheet = nullptr;
   std::exception_ptr failure;
 
@@ -63,12 +63,12 @@ LRESULT CALLBACK SheetSubclassProc(HWND window, UINT message, WPARAM wParam, LPA
   try {
     // The page-apply message comes ahead of everything the sheet does with messages.
     if (message == kWmLsPageApply) {
-      if (run->spec->onPageApply) run->spec->onPageApply(static_cast<int>(wParam));
+      if (run->setup->onPageApply) run->setup->onPageApply(static_cast<int>(wParam));
       return 0;
     }
-    if (IsSheetPaintMessage(message) && run->spec->onSheetMessage) {
+    if (IsSheetPaintMessage(message) && run->setup->onSheetMessage) {
       std::intptr_t result = 0;
-      if (run->spec->onSheetMessage(message, wParam, lParam, result)) return static_cast<LRESULT>(result);
+      if (run->setup->onSheetMessage(message, wParam, lParam, result)) return static_cast<LRESULT>(result);
     }
   } catch (...) {
     // Nothing leaves a window procedure: the run ends and the exception is rethrown after it.
@@ -86,8 +86,8 @@ int CALLBACK SheetCallback(HWND window, UINT message, LPARAM) {
   try {
     ::SetWindowSubclass(window, &SheetSubclassProc, kSheetSubclassId, reinterpret_cast<DWORD_PTR>(run));
     // The caption as given, the empty string included.
-    ::SendMessageA(window, PSM_SETTITLE, 0, reinterpret_cast<LPARAM>(run->spec->title.c_str()));
-    if (run->spec->onInitialized) run->spec->onInitialized(window, DefaultWindowOps());
+    ::SendMessageA(window, PSM_SETTITLE, 0, reinterpret_cast<LPARAM>(run->setup->title.c_str()));
+    if (run->setup->onInitialized) run->setup->onInitialized(window, DefaultWindowOps());
   } catch (...) {
     run->Fail(window);
   }
@@ -103,10 +103,10 @@ HMODULE KitModule() {
   return module;
 }
 
-std::intptr_t SheetRunnerWin32::Run(const SheetSpec& spec) {
+std::intptr_t SheetRunnerWin32::Run(const SheetSetup& setup) {
   SheetRun run;
-  run.spec = &spec;
-  const HINSTANCE module = spec.resourceModule ? static_cast<HINSTANCE>(spec.resourceModule) : KitModule();
+  run.setup = &setup;
+  const HINSTANCE module = setup.resourceModule ? static_cast<HINSTANCE>(setup.resourceModule) : KitModule();
 
   // One dialog host per tab; a page shown in two tabs has two hosts.
   std::vector<std::unique_ptr<DialogHost>> hosts;
@@ -120,7 +120,7 @@ std::intptr_t SheetRunnerWin32::Run(const SheetSpec& spec) {
         for (HPROPSHEETPAGE page : pages) ::DestroyPropertySheetPage(page);
     }
   } handles{pages};
-  for (const SheetPage& entry : spec.pages) {
+  for (const SheetPage& entry : setup.pages) {
     // The host keeps a page's exception; closing the sheet is the runner's part.
     auto host = std::make_unique<DialogHost>(*entry.page, nullptr, [](HWND page) {
       ::PostMessageA(::GetParent(page), PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
@@ -141,13 +141,13 @@ std::intptr_t SheetRunnerWin32::Run(const SheetSpec& spec) {
   PROPSHEETHEADERA header{};
   header.dwSize = sizeof(header);
   // OK, Cancel and Apply; modal (the modeless bit stays clear).
-  header.dwFlags = PSH_USECALLBACK | (spec.wizard ? PSH_WIZARD : 0);
-  header.hwndParent = static_cast<HWND>(spec.parent);
+  header.dwFlags = PSH_USECALLBACK | (setup.wizard ? PSH_WIZARD : 0);
+  header.hwndParent = static_cast<HWND>(setup.parent);
   header.hInstance = module;
   header.pszCaption = "";
   header.nPages = static_cast<UINT>(pages.size());
-  header.nStartPage = spec.startPage >= 0 && static_cast<std::size_t>(spec.startPage) < pages.size()
-                          ? static_cast<UINT>(spec.startPage)
+  header.nStartPage = setup.startPage >= 0 && static_cast<std::size_t>(setup.startPage) < pages.size()
+                          ? static_cast<UINT>(setup.startPage)
                           : 0;
   header.phpage = pages.data();
   header.pfnCallback = &SheetCallback;

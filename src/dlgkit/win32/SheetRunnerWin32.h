@@ -9,7 +9,7 @@ namespace orv {
 
 class SheetRunnerWin32 final : public SheetRunner {
  public:
-  std::intptr_t Run(const SheetSpec& spec) override;
+  std::intptr_t Run(const SheetSetup& setup) override;
 };
 
 // The module holding the kit's code: the DLL in the component, the program in a test.
