@@ -268,13 +268,29 @@ std::vector<RegistryEntry> RegistrationEntries(std::span<const ClassEntry> table
     return entries;
 }
 
-HRESULT RegisterServer(std::span<const ClassEntry> table, HMODULE module, RegistrationScope scope) noexcept
+namespace {
+
+// Both directions run under the registration locale with the module's path; no exception leaves.
+template <typename Action> HRESULT WithModulePath(HMODULE module, Action action) noexcept
 {
     try {
         ThreadLocaleScope locale(kRegistrationLocale);
         const std::wstring path = ModulePath(module);
         if (path.empty())
             return HRESULT_FROM_WIN32(GetLastError() != ERROR_SUCCESS ? GetLastError() : ERROR_FILENAME_EXCED_RANGE);
+        return action(path);
+    } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    } catch (...) {
+        return E_UNEXPECTED;
+    }
+}
+
+} // namespace
+
+HRESULT RegisterServer(std::span<const ClassEntry> table, HMODULE module, RegistrationScope scope) noexcept
+{
+    return WithModulePath(module, [&](const std::wstring& path) {
         const std::vector<RegistryEntry> entries = RegistrationEntries(table, path);
         Key root;
         HRESULT hr = OpenClassesRoot(scope, KEY_READ | KEY_WRITE, root);
@@ -287,35 +303,22 @@ HRESULT RegisterServer(std::span<const ClassEntry> table, HMODULE module, Regist
             // Nothing half-written: take back whatever got in, keep the first failure.
             UnregisterTypeLibrary(path, scope);
             RemoveEntries(root.get(), entries);
-            return hr;
         }
-        return S_OK;
-    } catch (const std::bad_alloc&) {
-        return E_OUTOFMEMORY;
-    } catch (...) {
-        return E_UNEXPECTED;
-    }
+        return hr;
+    });
 }
 
 HRESULT UnregisterServer(std::span<const ClassEntry> table, HMODULE module, RegistrationScope scope) noexcept
 {
-    try {
-        ThreadLocaleScope locale(kRegistrationLocale);
-        const std::wstring path = ModulePath(module);
-        if (path.empty())
-            return HRESULT_FROM_WIN32(GetLastError() != ERROR_SUCCESS ? GetLastError() : ERROR_FILENAME_EXCED_RANGE);
-        HRESULT typeLibResult = UnregisterTypeLibrary(path, scope);
+    return WithModulePath(module, [&](const std::wstring& path) {
+        const HRESULT typeLibResult = UnregisterTypeLibrary(path, scope);
         Key root;
         HRESULT hr = OpenClassesRoot(scope, KEY_READ | KEY_WRITE, root);
         if (FAILED(hr))
             return hr;
         hr = RemoveEntries(root.get(), RegistrationEntries(table, path));
         return FAILED(hr) ? hr : typeLibResult;
-    } catch (const std::bad_alloc&) {
-        return E_OUTOFMEMORY;
-    } catch (...) {
-        return E_UNEXPECTED;
-    }
+    });
 }
 
 } // namespace orv::host
