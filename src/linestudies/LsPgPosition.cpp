@@ -13,7 +13,6 @@ namespace {
 constexpr std::int32_t kDateMask = 16;   // "%m/%d/%y"
 constexpr std::int32_t kTimeMask = 256;  // minutes as "%d:%02d"
 constexpr std::int32_t kTickField = 6;
-constexpr std::size_t kTextBuffer = 32;  // what the page's edit fields hold
 constexpr const char* kNoDataText = " --- ";
 
 }  // namespace
