@@ -20,7 +20,7 @@ constexpr const char* kNoDataText = " --- ";
 // --- shared ---
 
 bool CLsPgPosition::OnInit() {
-  InitCommonControls();
+  InitPositionControls();
   UpdateControls();
   FillSnapBox();
   SnapToPrice(currentVertex_);
@@ -283,7 +283,7 @@ bool CLsPgIntraPosition::OnNotify(int id, int code, const void* payload, std::in
   return CLsPgPosition::OnNotify(id, code, payload, result);
 }
 
-void CLsPgIntraPosition::InitCommonControls() { Ctl().UpDownSetRange(IDC_LS_INTRA_SPIN, 0, maxPos_); }
+void CLsPgIntraPosition::InitPositionControls() { Ctl().UpDownSetRange(IDC_LS_INTRA_SPIN, 0, maxPos_); }
 
 bool CLsPgIntraPosition::Exchange(bool save, int controlId) {
   CXYCoord& point = Point(currentVertex_);

@@ -48,7 +48,7 @@ class CLsPgPosition : public orv::ThemedPage<CLsPgPosition>, public CLsPgBase {
   // The bar of a vertex for snapping; negative when there is none.
   virtual std::int32_t SnapPosition(const CXYCoord& point) = 0;
   // The common part of OnInit that differs between Day and Intra.
-  virtual void InitCommonControls() {}
+  virtual void InitPositionControls() {}
   // Called before the controls are first loaded, after snapping (the horizontal line's mean).
   virtual void BeforeControlsLoaded() {}
   // After the snap box's choice is saved.
@@ -113,7 +113,7 @@ class CLsPgIntraPosition : public CLsPgPosition {
 
  protected:
   CLsPgIntraPosition() { valueId_ = IDC_LS_INTRA_VALUE; }
-  void InitCommonControls() override;
+  void InitPositionControls() override;
   std::int32_t SnapPosition(const CXYCoord& point) override { return point.xPos; }
 };
 

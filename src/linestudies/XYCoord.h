@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "xml/Xml.h"
 
@@ -36,7 +37,7 @@ struct CXYCoord {
 
 // One choice of a snap box.
 struct SnapEntry {
-  const char* text;
+  std::string_view text;  // compared by content: a literal's address may differ between modules
   std::int32_t code;
   friend bool operator==(const SnapEntry&, const SnapEntry&) = default;
 };

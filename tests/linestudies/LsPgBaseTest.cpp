@@ -110,7 +110,7 @@ TEST(LsPgBase, SnapEntriesAreIndexesIntoTheFixedTable) {
   // The first list found counts; duplicates stay.
   const std::vector<SnapEntry> expected = {kSnapTable[5], kSnapTable[1], kSnapTable[1], kSnapTable[6]};
   EXPECT_EQ(page.SnapEntries(), expected);
-  EXPECT_STREQ(page.SnapEntries()[0].text, "Avg Close");
+  EXPECT_EQ(page.SnapEntries()[0].text, "Avg Close");
   EXPECT_EQ(page.SnapEntries()[3].code, 257);
 
   // Indexes outside the table are passed over, any integer form is read.

@@ -117,6 +117,8 @@ TEST(LsTrendlinePages, EachPageSendsBackWhatItReadWithTheUsersChange) {
     const bool isIntra = std::string(c.name).find("Intra") != std::string::npos;
     const std::string content = c.outside + SnapXml({0, 1, 2, 3}) + "<VertexButtons Show=\"Yes\"/>" + c.wrapperIn;
     const auto result = run.Run(SheetXml(c.name, content), isIntra ? intra : daily, [&](HeadlessSheetRunner& r) {
+      EXPECT_TRUE(run.sheet.PageOf(c.dialogId)->AsPage().OnHelp());
+      EXPECT_EQ(r.Tab(0).HelpRequests(), (std::vector<std::pair<std::string, int>>{{"CHARTX", c.dialogId}}));
       c.change(r.Tab(0));
       EXPECT_TRUE(r.Sheet().PressOk());
     });
