@@ -123,7 +123,12 @@ std::map<int, RcDialog> ReadDialogs() {
   return dialogs;
 }
 
+// The Windows build runs its tests where the sources may not be reachable by that path.
+#define REQUIRE_SOURCES()                                                          \
+  if (!fs::is_directory(ORV_LINESTUDIES_DIR)) GTEST_SKIP() << "no sources at " ORV_LINESTUDIES_DIR
+
 TEST(LsTemplates, FakeLayoutsHoldTheTemplatesControls) {
+  REQUIRE_SOURCES();
   const auto dialogs = ReadDialogs();
   const auto defines = ReadDefines();
   for (int dialogId : lstest::kTrendlineDialogs) {
@@ -146,6 +151,8 @@ TEST(LsTemplates, FakeLayoutsHoldTheTemplatesControls) {
 }
 
 TEST(LsTemplates, ControlsFitTheirDialogAndGroupsAndDontOverlap) {
+  REQUIRE_SOURCES();
+  ASSERT_GE(ReadDialogs().size(), 10u) << "the Advanced page and the nine trendline pages";
   for (const auto& [id, dialog] : ReadDialogs()) {
     SCOPED_TRACE(id);
     std::vector<const RcControl*> boxes, others;
