@@ -133,7 +133,9 @@ void CLsPgPosition::OnCommand(int id, int code) {
 }
 
 bool CLsPgPosition::OnNotify(int id, int code, const void* payload, std::intptr_t& result) {
-  if (id == IDC_LS_DAY_DATE && code == orv::kDtnCloseUp) {
+  // The calendar closing is a change; so is a date typed in the field, which would otherwise be
+  // saved on leaving but never sent.
+  if (id == IDC_LS_DAY_DATE && (code == orv::kDtnCloseUp || code == orv::kDtnDateTimeChange)) {
     if (!updating_) SetModified(true);
     return true;
   }

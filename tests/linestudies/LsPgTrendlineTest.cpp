@@ -210,6 +210,17 @@ TEST(LsTrendlinePages, ADateBetweenBarsIsRefusedAndATradingDayAccepted) {
   EXPECT_NE(run.Events()[0].find(orv::StrFormat("<XY_lDate>%d</XY_lDate>", kChristmas + 1)), std::string::npos);
 }
 
+TEST(LsTrendlinePages, ADateTypedInThePickerIsSentLikeOnePickedFromTheCalendar) {
+  SheetRun run;
+  run.Run(SheetXml("LsPgDayVert", StudyXml(false, {Pt{-1, 5, kJune3}})), SyntheticChartData::Daily(),
+          [](HeadlessSheetRunner& r) {
+            r.Tab(0).PickDate(IDC_LS_DAY_DATE, orv::DateTime{2024, 6, 20});
+            EXPECT_TRUE(r.Tab(0).IsSheetChanged());
+            EXPECT_TRUE(r.Sheet().PressOk());
+          });
+  EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml("LsPgDayVert", Trendline("CTrendline", false, {Pt{-1, 5, kJune20}}, ""))});
+}
+
 // --- snapping ---
 
 TEST(LsTrendlinePages, SnappingTakesTheBarsPriceOnlyWhenTheChartHasOne) {
