@@ -49,6 +49,20 @@ struct ListViewItemChanged {
   bool isSelected = false;
 };
 
+// An up-down control is about to move (UDN_DELTAPOS). For this code the kit hands OnNotify an
+// UpDownDeltaPos on every platform. A page that answers `result` non-zero keeps the control
+// where it is (the page then sets the position itself).
+inline constexpr int kUdnDeltaPos = -722;
+struct UpDownDeltaPos {
+  int pos = 0;    // the position before the move
+  int delta = 0;  // the proposed change
+};
+
+// A date picker's calendar closed (DTN_CLOSEUP); no payload that portable pages read.
+inline constexpr int kDtnCloseUp = -753;
+// A date picker's date changed, by the calendar or the keyboard (DTN_DATETIMECHANGE).
+inline constexpr int kDtnDateTimeChange = -759;
+
 class Page {
  public:
   virtual ~Page() = default;

@@ -5,4 +5,5 @@ list(APPEND ORV_DLGKIT_WIN32_SOURCES
 list(APPEND ORV_DLGKIT_NATIVE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/native/SheetRunnerNative.cpp)
 list(APPEND ORV_DLGKIT_FAKE_SOURCES
-  ${CMAKE_CURRENT_LIST_DIR}/fake/HeadlessSheetRunner.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/fake/HeadlessSheetRunner.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/fake/SyntheticChartData.cpp)

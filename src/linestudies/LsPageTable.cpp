@@ -1,6 +1,15 @@
 #include "linestudies/LsPageTable.h"
 
 #include "linestudies/LsPgAdvanced.h"
+#include "linestudies/LsPgDayHorz.h"
+#include "linestudies/LsPgDayLRC.h"
+#include "linestudies/LsPgDayTrend.h"
+#include "linestudies/LsPgDayVWAP.h"
+#include "linestudies/LsPgDayVert.h"
+#include "linestudies/LsPgIntraLRC.h"
+#include "linestudies/LsPgIntraTrend.h"
+#include "linestudies/LsPgIntraVWAP.h"
+#include "linestudies/LsPgIntraVert.h"
 
 namespace orv {
 
@@ -16,15 +25,15 @@ std::unique_ptr<LineStudyPage> Make() {
 constexpr LsPageInfo kPages[kLsPageCount] = {
     {"GraphObjLinePg", "CGraphObjLinePg", 1335, nullptr, false},
     {"LsPgDayFibo", "CLsPgDayFibo", 1314, nullptr, true},
-    {"LsPgDayVert", "CLsPgDayVert", 1319, nullptr, true},
-    {"LsPgDayHorz", "CLsPgDayHorz", 1318, nullptr, true},
-    {"LsPgDayTrend", "CLsPgDayTrend", 1317, nullptr, true},
+    {"LsPgDayVert", "CLsPgDayVert", 1319, &Make<CLsPgDayVert>, true},
+    {"LsPgDayHorz", "CLsPgDayHorz", 1318, &Make<CLsPgDayHorz>, true},
+    {"LsPgDayTrend", "CLsPgDayTrend", 1317, &Make<CLsPgDayTrend>, true},
     {"LsPgDayGann", "CLsPgDayGann", 1315, nullptr, true},
     {"LsPgDayPfork", "CLsPgDayPfork", 1316, nullptr, true},
     {"LsPgDayShape", "CLsPgDayShape", 1320, nullptr, true},
     {"LsPgDayCycfnd", "CLsPgDayCycfnd", 1321, nullptr, true},
-    {"LsPgIntraTrend", "CLsPgIntraTrend", 1326, nullptr, true},
-    {"LsPgIntraVert", "CLsPgIntraVert", 1327, nullptr, true},
+    {"LsPgIntraTrend", "CLsPgIntraTrend", 1326, &Make<CLsPgIntraTrend>, true},
+    {"LsPgIntraVert", "CLsPgIntraVert", 1327, &Make<CLsPgIntraVert>, true},
     {"LsPgIntraFibo", "CLsPgIntraFibo", 1323, nullptr, true},
     {"LsPgIntraGann", "CLsPgIntraGann", 1324, nullptr, true},
     {"LsPgIntraPfork", "CLsPgIntraPfork", 1325, nullptr, true},
@@ -38,10 +47,10 @@ constexpr LsPageInfo kPages[kLsPageCount] = {
     {"LsPgStatsShow", "CLsPgStatsShow", 1353, nullptr, false},
     {"LsPgStatsPos", "CLsPgStatsPos", 1354, nullptr, true},
     {"LsPgVolProf", "CLsPgVolProf", 1357, nullptr, true},
-    {"LsPgDayVWAP", "CLsPgDayVWAP", 1363, nullptr, true},
-    {"LsPgIntraVWAP", "CLsPgIntraVWAP", 1364, nullptr, true},
-    {"LsPgDayLRC", "CLsPgDayLRC", 1365, nullptr, true},
-    {"LsPgIntraLRC", "CLsPgIntraLRC", 1366, nullptr, true},
+    {"LsPgDayVWAP", "CLsPgDayVWAP", 1363, &Make<CLsPgDayVWAP>, true},
+    {"LsPgIntraVWAP", "CLsPgIntraVWAP", 1364, &Make<CLsPgIntraVWAP>, true},
+    {"LsPgDayLRC", "CLsPgDayLRC", 1365, &Make<CLsPgDayLRC>, true},
+    {"LsPgIntraLRC", "CLsPgIntraLRC", 1366, &Make<CLsPgIntraLRC>, true},
     {"LsPgDayParallel", "CLsPgDayParallel", 1394, nullptr, true},
     {"LsPgIntraParallel", "CLsPgIntraParallel", 1395, nullptr, true},
     {"LsPgLineParallel", "CLsPgLineParallel", 1396, nullptr, false},

@@ -8,7 +8,6 @@
 namespace orv {
 
 namespace {
-constexpr int kDtnDateTimeChange = -759;
 
 bool ValidIndex(int index, std::size_t size) { return index >= 0 && static_cast<std::size_t>(index) < size; }
 
@@ -148,6 +147,26 @@ void FakeControls::PickDate(int id, std::optional<DateTime> value) {
     std::intptr_t result = 0;
     page_->OnNotify(id, kDtnDateTimeChange, nullptr, result);
   }
+}
+
+void FakeControls::PickDateFromCalendar(int id, DateTime value) {
+  PickDate(id, value);
+  if (page_) {
+    std::intptr_t result = 0;
+    page_->OnNotify(id, kDtnCloseUp, nullptr, result);
+  }
+}
+
+void FakeControls::ClickSpin(int id, int delta) {
+  FakeControl& control = Reachable(id, "spin");
+  if (control.kind != FakeControlKind::UpDown) throw std::logic_error("cannot spin: " + Describe(id) + " is no up-down");
+  SetFocus(id);
+  std::intptr_t result = 0;
+  if (page_) {
+    UpDownDeltaPos change{control.pos, delta};
+    page_->OnNotify(id, kUdnDeltaPos, &change, result);
+  }
+  if (result == 0) UpDownSetPos(id, Control(id).pos + delta);
 }
 
 // --- Controls ---

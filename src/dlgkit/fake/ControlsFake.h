@@ -85,7 +85,12 @@ class FakeControls final : public Controls {
   void SelectComboItem(int id, int index);           // CBN_SELCHANGE
   void SelectListItem(int id, int index);            // LBN_SELCHANGE
   void ClickListViewCheck(int id, int item);         // toggles the check; LVN_ITEMCHANGED
-  void PickDate(int id, std::optional<DateTime> value);  // DTN_DATETIMECHANGE
+  void PickDate(int id, std::optional<DateTime> value);  // DTN_DATETIMECHANGE (typed in the field)
+  // Picks a day in the drop-down calendar: DTN_DATETIMECHANGE, then DTN_CLOSEUP.
+  void PickDateFromCalendar(int id, DateTime value);
+  // Presses an up-down's arrow: UDN_DELTAPOS with `delta` (+1 up, -1 down). Unless the page
+  // answers non-zero, the position then moves by delta within the range, as the control's would.
+  void ClickSpin(int id, int delta);
 
   // --- what the page did ---
   const std::vector<unsigned>& Beeps() const { return beeps_; }

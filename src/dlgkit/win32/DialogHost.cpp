@@ -202,6 +202,11 @@ bool DialogHost::HandleNotify(const NMHDR& header, LPARAM lParam, LRESULT& resul
     portable.wasSelected = (change.uOldState & LVIS_SELECTED) != 0;
     portable.isSelected = (change.uNewState & LVIS_SELECTED) != 0;
     handled = page_.OnNotify(static_cast<int>(header.idFrom), kLvnItemChanged, &portable, answer);
+  } else if (header.code == UDN_DELTAPOS) {
+    // The same for an up-down's move: the page may answer non-zero to keep the control still.
+    const auto& move = *reinterpret_cast<const NMUPDOWN*>(lParam);
+    UpDownDeltaPos portable{move.iPos, move.iDelta};
+    handled = page_.OnNotify(static_cast<int>(header.idFrom), kUdnDeltaPos, &portable, answer);
   } else {
     handled = page_.OnNotify(static_cast<int>(header.idFrom), code, &header, answer);
   }
