@@ -57,7 +57,7 @@ class ScriptedPage : public orv::Page {
     ++commands;
   }
   bool OnNotify(int id, int code, const void*, std::intptr_t& result) override {
-    if (code != kHandledCode) return false;
+    if (code != static_cast<int>(kHandledCode)) return false;
     log.push_back("notify " + std::to_string(id));
     result = 5;
     return true;

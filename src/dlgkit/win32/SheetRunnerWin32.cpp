@@ -104,6 +104,10 @@ HMODULE KitModule() {
 }
 
 std::intptr_t SheetRunnerWin32::Run(const SheetSetup& setup) {
+  // The pages' templates use the date picker and up-down classes, which the host may never have
+  // registered: registered here, in the activation context the sheet runs in.
+  INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_UPDOWN_CLASS};
+  ::InitCommonControlsEx(&classes);
   SheetRun run;
   run.setup = &setup;
   const HINSTANCE module = setup.resourceModule ? static_cast<HINSTANCE>(setup.resourceModule) : KitModule();
