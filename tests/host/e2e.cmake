@@ -11,3 +11,9 @@ orv_add_test(orvhost_tests)
 add_test(NAME host_e2e_orvhost
   COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/e2e.sh $<TARGET_FILE:orvhost> ${CMAKE_CURRENT_LIST_DIR}/e2e)
 set_tests_properties(host_e2e_orvhost PROPERTIES LABELS wine TIMEOUT 300)
+
+# Pictures of the nine trendline family pages, each in the platform's sheet, for a person to
+# look at: <build>/tests/host/pictures/<page>.png.
+add_test(NAME host_e2e_page_pictures
+  COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/pictures.sh $<TARGET_FILE:orvhost> ${CMAKE_CURRENT_BINARY_DIR}/pictures)
+set_tests_properties(host_e2e_page_pictures PROPERTIES LABELS wine TIMEOUT 300)
