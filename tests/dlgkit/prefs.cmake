@@ -1,0 +1,3 @@
+# Tests of prompts, the colour table, fonts and the registry key wrapper.
+list(APPEND ORV_DLGKIT_TEST_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/PromptsTest.cpp)
