@@ -12,13 +12,18 @@ const char* const kUsage =
     "  --manifest <file>        manifest: this application manifest instead of the built-in one\n"
     "  --doc <file.xml>         the document (default: the built-in Trendline line study sheet)\n"
     "  --no-chart-data          DoModal without chart data (default DoModal2 with a synthetic chart)\n"
+    "  --language <file.xml>    the prompts served as document LANGUAGE (default: the built-in sample)\n"
+    "  --prefs <file.xml>       the theme, colour table and values served as PREFS (default: built in)\n"
+    "  --no-services            serve no settings or help service: no theme, prompts or help\n"
     "  --intraday               the synthetic chart has five-minute bars stamped to the second\n"
     "  --script <file or text>  drive the sheet: text <id> <value>, click <id>, select <id> <index>,\n"
     "                           tab <index>, apply, ok, cancel, next, back, finish, wait <ms>,\n"
     "                           screenshot <file.png>; separated by new lines or ';'\n"
     "  --screenshot <file.png>  the same as appending: screenshot <file.png>; cancel\n"
-    "Prints each StatusEvent as one line \"StatusEvent: <pValue>\" (\\r \\n \\t \\\\ escaped), then\n"
-    "\"DoModal returned <n>\". Exit code: the result (1 changed, 0 not, 2 no such sheet, 255 for -1);\n"
+    "Prints each StatusEvent as one line \"StatusEvent: <pValue>\" (\\r \\n \\t \\\\ escaped), each help\n"
+    "request as \"ShowHelp: <book> <topic> <flags>\" and each stored value as\n"
+    "\"SetValue: <section> <key> <value> <kind>\", then \"DoModal returned <n>\".\n"
+    "Exit code: the result (1 changed, 0 not, 2 no such sheet, 255 for -1);\n"
     "3 a bad or failed script, 4 a bad command line or document, 5 the component failed.\n";
 
 namespace {
@@ -73,6 +78,12 @@ ParsedOptions ParseOptions(const std::vector<std::wstring>& args)
             if (!value(o.script)) return parsed;
         } else if (arg == L"--screenshot") {
             if (!value(o.screenshot)) return parsed;
+        } else if (arg == L"--language") {
+            if (!value(o.languagePath)) return parsed;
+        } else if (arg == L"--prefs") {
+            if (!value(o.prefsPath)) return parsed;
+        } else if (arg == L"--no-services") {
+            o.noServices = true;
         } else if (arg == L"--no-chart-data") {
             o.noChartData = true;
         } else if (arg == L"--intraday") {
@@ -89,6 +100,8 @@ ParsedOptions ParseOptions(const std::vector<std::wstring>& args)
     else if (sawDll && o.activation != Activation::Direct) parsed.error = "--dll goes only with --activate direct";
     else if (sawManifest && o.activation != Activation::Manifest) parsed.error = "--manifest goes only with --activate manifest";
     else if (o.intraday && o.noChartData) parsed.error = "--intraday needs chart data; drop --no-chart-data";
+    else if (o.noServices && (!o.languagePath.empty() || !o.prefsPath.empty()))
+        parsed.error = "--language and --prefs need the services; drop --no-services";
     return parsed;
 }
 

@@ -20,6 +20,9 @@ struct Options {
     std::wstring docPath;      // the document; empty: the built-in line study sample
     std::wstring script;       // --script: a file name, or the script itself
     std::wstring screenshot;   // --screenshot: screenshot <file>; cancel, after the script
+    std::wstring languagePath; // the LANGUAGE document served; empty: the built-in samples/language.xml
+    std::wstring prefsPath;    // the PREFS document served; empty: the built-in samples/prefs.xml
+    bool noServices = false;   // register no settings or help service: the dialogs do without
     bool noChartData = false;  // DoModal instead of DoModal2
     bool intraday = false;     // the synthetic chart is intraday
     bool help = false;

@@ -4,6 +4,7 @@
 // the open sheet by a script. See apps/README.md.
 #include "Activation.h"
 #include "ComObjects.h"
+#include "HostServiceObjects.h"
 #include "Options.h"
 #include "Script.h"
 #include "ScriptDriver.h"
@@ -89,9 +90,9 @@ bool IsFile(const std::wstring& path)
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-std::string BuiltInSample()
+std::string BuiltInSample(int id = IDR_SAMPLE_LSPS)
 {
-    const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(IDR_SAMPLE_LSPS), MAKEINTRESOURCEW(10) /* RT_RCDATA */);
+    const HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(id), MAKEINTRESOURCEW(10) /* RT_RCDATA */);
     const HGLOBAL loaded = found != nullptr ? LoadResource(nullptr, found) : nullptr;
     const void* data = loaded != nullptr ? LockResource(loaded) : nullptr;
     if (data == nullptr) return {};
@@ -131,6 +132,30 @@ bool LoadDocument(const Options& options, ComPtr<IXMLDOMDocument2>& document, st
     if (FAILED(hr) || loaded != VARIANT_TRUE) {
         error = StrFormat("%s is not well-formed XML", name.c_str());
         return false;
+    }
+    return true;
+}
+
+// The documents the host's settings service serves: the given files or the built-in samples.
+bool LoadHostSettings(const Options& options, HostSettings& settings, std::string& error)
+{
+    const struct {
+        const wchar_t* name;
+        const std::wstring& path;
+        int sample;
+    } documents[] = {
+        {L"LANGUAGE", options.languagePath, IDR_SAMPLE_LANGUAGE},
+        {L"PREFS", options.prefsPath, IDR_SAMPLE_PREFS},
+    };
+    for (const auto& document : documents) {
+        std::string bytes;
+        if (document.path.empty()) {
+            bytes = BuiltInSample(document.sample);
+        } else if (!ReadFile(document.path, bytes)) {
+            error = StrFormat("cannot read %s", Utf8(document.path).c_str());
+            return false;
+        }
+        if (!settings.AddDocument(document.name, Wide(std::move(bytes)), error)) return false;
     }
     return true;
 }
@@ -200,10 +225,27 @@ int Run(const std::vector<std::wstring>& args)
     InitCommonControlsEx(&classes);
 
     std::string error;
+    HRESULT hr = S_OK;
     ComPtr<IXMLDOMDocument2> document;
     if (!LoadDocument(options, document, error)) {
         std::fprintf(stderr, "orvhost: %s\n", error.c_str());
         return kExitBadInput;
+    }
+
+    // The host's services, for this process only, before the component can ask for them; they go
+    // after the component does (objects are destroyed in reverse order).
+    const auto settings = std::make_shared<HostSettings>();
+    ServiceRegistration services;
+    if (!options.noServices) {
+        if (!LoadHostSettings(options, *settings, error)) {
+            std::fprintf(stderr, "orvhost: %s\n", error.c_str());
+            return kExitBadInput;
+        }
+        hr = services.Register(settings);
+        if (FAILED(hr)) {
+            std::fprintf(stderr, "orvhost: cannot register the host's services (0x%08lX)\n", static_cast<unsigned long>(hr));
+            return kExitComponentFailed;
+        }
     }
 
     ComponentInstance component;
@@ -214,7 +256,7 @@ int Run(const std::vector<std::wstring>& args)
 
     const ComPtr<StatusEventPrinter> sink = StatusEventPrinter::Make(stdout);
     EventConnection connection;
-    HRESULT hr = connection.Connect(component.Pages(), DIID__IChartPagesEvents, sink.get());
+    hr = connection.Connect(component.Pages(), DIID__IChartPagesEvents, sink.get());
     if (FAILED(hr)) {
         std::fprintf(stderr, "orvhost: cannot connect to StatusEvent (0x%08lX)\n", static_cast<unsigned long>(hr));
         return kExitComponentFailed;

@@ -11,16 +11,36 @@
 #include <string>
 
 #include "dlgkit/ThemeColors.h"
+#include "xml/Xml.h"
 
 namespace orv {
 
+// The operations in the order of the host's interface. Every failed call raises XmlComError;
+// a result other than 0 is the host's "not found" or "not done", never an exception.
 class SettingsService {
  public:
   virtual ~SettingsService() = default;
+  // A value the host keeps under (section, key), as text ("LinePpgX", "Caption").
+  virtual void GetValue(const std::string& section, const std::string& key, std::string& value,
+                        std::int32_t& result) = 0;
+  // Stores a 32-bit value of the given XmlValueKind ("Displays/Seasonal", "ByWizard", 1, 4).
+  virtual void SetValue(const std::string& section, const std::string& key, std::int32_t value,
+                        std::int32_t kind, std::int32_t& result) = 0;
   // Fills the record; result non-zero means the host has no theme (the record is then not
-  // trusted). A failed call raises XmlComError.
+  // trusted).
   virtual void GetTheme(ThemeColors& theme, std::int32_t zero, std::int32_t& result) = 0;
+  // The text of the node that `xpath` selects in the named document ("LANGUAGE", "PREFS"), or of
+  // its attribute when `attribute` is not empty. `kind` is 17 for text.
+  virtual void GetDocumentValue(const std::string& document, const std::string& xpath,
+                                const std::string& attribute, std::int32_t kind,
+                                std::string& value, std::int32_t& result) = 0;
+  // The node that `xpath` selects in the named document; null when there is none.
+  virtual void GetDocumentNode(const std::string& document, const std::string& xpath,
+                               XmlNode& node, std::int32_t& result) = 0;
 };
+
+// The kind GetDocumentValue is asked for: the value as text.
+inline constexpr std::int32_t kDocumentValueText = 17;
 
 class HelpService {
  public:

@@ -1,6 +1,7 @@
 #pragma once
 // A host inside the process that serves one given theme and has no help service: the demo
-// program uses it to show a themed dialog without a registered host application.
+// program uses it to show a themed dialog without a registered host application. It keeps no
+// values and no documents: those calls answer result 1 (none).
 
 #include "dlgkit/HostServices.h"
 

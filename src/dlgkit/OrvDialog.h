@@ -179,3 +179,17 @@ class COrvDialog {
   orv::WindowHandle m_window = nullptr;
   bool m_scanned = false;
 };
+
+namespace orv {
+
+// The theme fetched anew from the host and pushed into the dialog: the display scale from the
+// "DISPLAY" device, the settings service (none: false), GetTheme (a non-zero result: false),
+// new brushes in the background and field colours, WM_ORV_THEME to every registered control,
+// the dialog invalidated with erasing and marked as themed. COrvDialog::LoadTheme is this
+// pattern; a failed call raises XmlComError.
+template <class T>
+bool RefreshTheme(COrvDialog<T>& dialog) {
+  return dialog.LoadTheme();
+}
+
+}  // namespace orv

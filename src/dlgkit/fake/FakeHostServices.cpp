@@ -3,34 +3,81 @@
 namespace orv {
 namespace {
 
+const char* CallName(SettingsCall call) {
+  switch (call) {
+    case SettingsCall::GetValue: return "GetValue";
+    case SettingsCall::SetValue: return "SetValue";
+    case SettingsCall::GetTheme: return "GetTheme";
+    case SettingsCall::GetDocumentValue: return "GetDocumentValue";
+    case SettingsCall::GetDocumentNode: return "GetDocumentNode";
+  }
+  return "?";
+}
+
+std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
+
 class FakeSettings final : public SettingsService {
  public:
-  FakeSettings(FakeHostServices& owner, FakeHostServices::SettingsExpectation expectation)
+  using Expectation = FakeHostServices::SettingsExpectation;
+  FakeSettings(FakeHostServices& owner, Expectation expectation)
       : owner_(owner), expectation_(std::move(expectation)) {}
+
+  void GetValue(const std::string& section, const std::string& key, std::string& value,
+                std::int32_t& result) override {
+    const std::string call = "GetValue(" + Quoted(section) + ", " + Quoted(key) + ")";
+    Begin(SettingsCall::GetValue, call, section == expectation_.first && key == expectation_.second);
+    value = expectation_.text;
+    result = expectation_.result;
+  }
+  void SetValue(const std::string& section, const std::string& key, std::int32_t value, std::int32_t kind,
+                std::int32_t& result) override {
+    const std::string call = "SetValue(" + Quoted(section) + ", " + Quoted(key) + ", " + std::to_string(value) +
+                             ", " + std::to_string(kind) + ")";
+    Begin(SettingsCall::SetValue, call,
+          section == expectation_.first && key == expectation_.second && value == expectation_.value &&
+              kind == expectation_.kind);
+    result = expectation_.result;
+  }
   void GetTheme(ThemeColors& theme, std::int32_t zero, std::int32_t& result) override {
-    if (called_) owner_.Unexpected("a second GetTheme on one settings service");
-    if (zero != 0) owner_.Unexpected("GetTheme with a non-zero second argument");
-    called_ = true;
-    owner_.CallDone();
-    switch (expectation_.kind) {
-      case FakeHostServices::SettingsExpectation::Theme:
-        theme = expectation_.theme;
-        result = 0;
-        return;
-      case FakeHostServices::SettingsExpectation::NoTheme:
-        result = expectation_.result;
-        return;
-      case FakeHostServices::SettingsExpectation::Failure:
-        throw XmlComError(expectation_.status, "ISettingsService");
-      case FakeHostServices::SettingsExpectation::NoService:
-        break;
-    }
-    owner_.Unexpected("GetTheme on a service that should not exist");
+    Begin(SettingsCall::GetTheme, "GetTheme(" + std::to_string(zero) + ")", zero == 0);
+    if (expectation_.fillTheme) theme = expectation_.theme;
+    result = expectation_.result;
+  }
+  void GetDocumentValue(const std::string& document, const std::string& xpath, const std::string& attribute,
+                        std::int32_t kind, std::string& value, std::int32_t& result) override {
+    const std::string call = "GetDocumentValue(" + Quoted(document) + ", " + Quoted(xpath) + ", " +
+                             Quoted(attribute) + ", " + std::to_string(kind) + ")";
+    Begin(SettingsCall::GetDocumentValue, call,
+          document == expectation_.first && xpath == expectation_.second && attribute == expectation_.third &&
+              kind == expectation_.kind);
+    value = expectation_.text;
+    result = expectation_.result;
+  }
+  void GetDocumentNode(const std::string& document, const std::string& xpath, XmlNode& node,
+                       std::int32_t& result) override {
+    const std::string call = "GetDocumentNode(" + Quoted(document) + ", " + Quoted(xpath) + ")";
+    Begin(SettingsCall::GetDocumentNode, call, document == expectation_.first && xpath == expectation_.second);
+    node = expectation_.node;
+    result = expectation_.result;
   }
 
  private:
+  // Checks the call against the one expected; raises the expected failure.
+  void Begin(SettingsCall call, const std::string& description, bool argumentsMatch) {
+    if (called_) owner_.Unexpected("a second call on one settings service: " + description);
+    if (call != expectation_.call) {
+      owner_.Unexpected(description + ", expected " + CallName(expectation_.call));
+    }
+    if (!expectation_.fails && !argumentsMatch) {
+      owner_.Unexpected(description + ": other arguments than expected");
+    }
+    called_ = true;
+    owner_.CallDone();
+    if (expectation_.fails) throw XmlComError(expectation_.status, "ISettingsService");
+  }
+
   FakeHostServices& owner_;
-  FakeHostServices::SettingsExpectation expectation_;
+  Expectation expectation_;
   bool called_ = false;
 };
 
@@ -60,16 +107,70 @@ class FakeHelp final : public HelpService {
 }  // namespace
 
 void FakeHostServices::ExpectNoSettingsService() {
-  settings_.push_back({SettingsExpectation::NoService, {}, 0, kStatusOk});
+  SettingsExpectation expectation;
+  expectation.service = false;
+  settings_.push_back(std::move(expectation));
 }
 void FakeHostServices::ExpectTheme(const ThemeColors& theme) {
-  settings_.push_back({SettingsExpectation::Theme, theme, 0, kStatusOk});
+  SettingsExpectation expectation;
+  expectation.theme = theme;
+  expectation.fillTheme = true;
+  settings_.push_back(std::move(expectation));
 }
 void FakeHostServices::ExpectNoTheme(std::int32_t result) {
-  settings_.push_back({SettingsExpectation::NoTheme, {}, result, kStatusOk});
+  SettingsExpectation expectation;
+  expectation.result = result;
+  settings_.push_back(std::move(expectation));
 }
-void FakeHostServices::ExpectThemeFailure(Status status) {
-  settings_.push_back({SettingsExpectation::Failure, {}, 0, status});
+void FakeHostServices::ExpectThemeFailure(Status status) { ExpectSettingsFailure(SettingsCall::GetTheme, status); }
+void FakeHostServices::ExpectValue(std::string section, std::string key, std::string value, std::int32_t result) {
+  SettingsExpectation expectation;
+  expectation.call = SettingsCall::GetValue;
+  expectation.first = std::move(section);
+  expectation.second = std::move(key);
+  expectation.text = std::move(value);
+  expectation.result = result;
+  settings_.push_back(std::move(expectation));
+}
+void FakeHostServices::ExpectSetValue(std::string section, std::string key, std::int32_t value, std::int32_t kind,
+                                      std::int32_t result) {
+  SettingsExpectation expectation;
+  expectation.call = SettingsCall::SetValue;
+  expectation.first = std::move(section);
+  expectation.second = std::move(key);
+  expectation.value = value;
+  expectation.kind = kind;
+  expectation.result = result;
+  settings_.push_back(std::move(expectation));
+}
+void FakeHostServices::ExpectDocumentValue(std::string document, std::string xpath, std::string attribute,
+                                           std::int32_t kind, std::string value, std::int32_t result) {
+  SettingsExpectation expectation;
+  expectation.call = SettingsCall::GetDocumentValue;
+  expectation.first = std::move(document);
+  expectation.second = std::move(xpath);
+  expectation.third = std::move(attribute);
+  expectation.kind = kind;
+  expectation.text = std::move(value);
+  expectation.result = result;
+  settings_.push_back(std::move(expectation));
+}
+void FakeHostServices::ExpectDocumentNode(std::string document, std::string xpath, XmlNode node,
+                                          std::int32_t result) {
+  SettingsExpectation expectation;
+  expectation.call = SettingsCall::GetDocumentNode;
+  expectation.first = std::move(document);
+  expectation.second = std::move(xpath);
+  expectation.node = std::move(node);
+  expectation.result = result;
+  settings_.push_back(std::move(expectation));
+}
+void FakeHostServices::ExpectSettingsFailure(SettingsCall call, Status status) {
+  SettingsExpectation expectation;
+  expectation.call = call;
+  expectation.fails = true;
+  expectation.status = status;
+  settings_.push_back(std::move(expectation));
 }
 void FakeHostServices::ExpectNoHelpService() { help_.push_back({}); }
 void FakeHostServices::ExpectHelp(std::string book, std::int32_t topicId, std::int32_t flags,
@@ -86,7 +187,7 @@ std::unique_ptr<SettingsService> FakeHostServices::CreateSettingsService() {
   if (settings_.empty()) Unexpected("creation of the settings service");
   auto expectation = settings_.front();
   settings_.pop_front();
-  if (expectation.kind == SettingsExpectation::NoService) return nullptr;
+  if (!expectation.service) return nullptr;
   ++pendingCalls_;
   return std::make_unique<FakeSettings>(*this, expectation);
 }

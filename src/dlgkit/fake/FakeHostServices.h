@@ -1,7 +1,8 @@
 #pragma once
 // A strict stand-in for the host's services. A test states what each creation and call is to
-// do, in order; any call nobody expected (or with other arguments) throws UnexpectedHostCall
-// and is recorded, so the test fails where it happened.
+// do, in order: one call per service created, as the program makes a service at each use. Any
+// call nobody expected (another operation, other arguments, a second call) throws
+// UnexpectedHostCall and is recorded, so the test fails where it happened.
 
 #include <deque>
 #include <stdexcept>
@@ -18,6 +19,9 @@ class UnexpectedHostCall : public std::logic_error {
   using std::logic_error::logic_error;
 };
 
+// The settings service's operations, in the order of its interface.
+enum class SettingsCall { GetValue, SetValue, GetTheme, GetDocumentValue, GetDocumentNode };
+
 class FakeHostServices final : public HostServices {
  public:
   // Settings service creations, consumed in order.
@@ -25,6 +29,16 @@ class FakeHostServices final : public HostServices {
   void ExpectTheme(const ThemeColors& theme);      // GetTheme fills it, result 0
   void ExpectNoTheme(std::int32_t result = 1);     // GetTheme answers this non-zero result
   void ExpectThemeFailure(Status status);          // GetTheme fails with this status
+  void ExpectValue(std::string section, std::string key, std::string value, std::int32_t result = 0);
+  void ExpectSetValue(std::string section, std::string key, std::int32_t value, std::int32_t kind,
+                      std::int32_t result = 0);
+  // GetDocumentValue with these arguments answers `value` and `result`.
+  void ExpectDocumentValue(std::string document, std::string xpath, std::string attribute,
+                           std::int32_t kind, std::string value, std::int32_t result = 0);
+  // GetDocumentNode with these arguments answers `node` and `result`.
+  void ExpectDocumentNode(std::string document, std::string xpath, XmlNode node, std::int32_t result = 0);
+  // The one call of the next service is `call` (any arguments) and fails with `status`.
+  void ExpectSettingsFailure(SettingsCall call, Status status);
   // Help service creations, consumed in order.
   void ExpectNoHelpService();
   void ExpectHelp(std::string book, std::int32_t topicId, std::int32_t flags, std::int32_t result);
@@ -40,9 +54,18 @@ class FakeHostServices final : public HostServices {
   void CallDone() { --pendingCalls_; }
 
   struct SettingsExpectation {
-    enum Kind { NoService, Theme, NoTheme, Failure } kind;
+    bool service = true;
+    SettingsCall call = SettingsCall::GetTheme;
+    // Arguments: section and key, or document, XPath and attribute.
+    std::string first, second, third;
+    std::int32_t value = 0, kind = 0;
+    // Answers.
     ThemeColors theme;
+    bool fillTheme = false;
+    std::string text;
+    XmlNode node;
     std::int32_t result = 0;
+    bool fails = false;
     Status status = kStatusOk;
   };
   struct HelpExpectation {

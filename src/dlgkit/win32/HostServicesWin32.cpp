@@ -4,6 +4,7 @@
 #include <string>
 
 #include "xml/XmlError.h"
+#include "xml/msxml/XmlMsxml.h"
 
 namespace orv {
 namespace {
@@ -20,14 +21,40 @@ struct BstrDeleter {
 using OwnedBstr = std::unique_ptr<OLECHAR, BstrDeleter>;
 
 // Narrow text in the thread's code page to a BSTR for the COM boundary.
-OwnedBstr ToBstr(const std::string& text) {
+OwnedBstr ToBstr(const std::string& text, const char* context) {
   const int length = ::MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
   OwnedBstr result(::SysAllocStringLen(nullptr, static_cast<UINT>(length > 0 ? length : 0)));
-  if (!result) throw XmlComError(kStatusOutOfMemory, "IHelpService");
+  if (!result) throw XmlComError(kStatusOutOfMemory, context);
   if (length > 0)
     ::MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), static_cast<int>(text.size()), result.get(), length);
   return result;
 }
+
+// A BSTR from the host to narrow text in the thread's code page; null is the empty text.
+std::string FromBstr(BSTR text) {
+  const UINT size = ::SysStringLen(text);
+  if (size == 0) return {};
+  const int length = ::WideCharToMultiByte(CP_THREAD_ACP, 0, text, static_cast<int>(size), nullptr, 0, nullptr, nullptr);
+  std::string result(static_cast<std::size_t>(length > 0 ? length : 0), '\0');
+  if (length > 0)
+    ::WideCharToMultiByte(CP_THREAD_ACP, 0, text, static_cast<int>(size), result.data(), length, nullptr, nullptr);
+  return result;
+}
+
+// An owned VARIANT out parameter.
+class OwnedVariant {
+ public:
+  OwnedVariant() { ::VariantInit(&value_); }
+  OwnedVariant(const OwnedVariant&) = delete;
+  OwnedVariant& operator=(const OwnedVariant&) = delete;
+  ~OwnedVariant() { ::VariantClear(&value_); }
+  VARIANT* get() { return &value_; }
+
+ private:
+  VARIANT value_;
+};
+
+constexpr char kSettingsContext[] = "ISettingsService";
 
 template <class I>
 ComRef<I> Create(const CLSID& clsid, const IID& iid) {
@@ -39,11 +66,63 @@ ComRef<I> Create(const CLSID& clsid, const IID& iid) {
 class ComSettingsService final : public SettingsService {
  public:
   explicit ComSettingsService(ComRef<ISettingsService> service) : service_(std::move(service)) {}
+  void GetValue(const std::string& section, const std::string& key, std::string& value,
+                std::int32_t& result) override {
+    OwnedBstr sectionText = ToBstr(section, kSettingsContext);
+    OwnedBstr keyText = ToBstr(key, kSettingsContext);
+    OwnedVariant answer;
+    long status = 0;
+    XmlCheck(service_->GetValue(sectionText.get(), keyText.get(), answer.get(), &status), kSettingsContext);
+    result = status;
+    // Whatever type the host answers with, the program takes its text; empty and null are none.
+    if (answer.get()->vt == VT_EMPTY || answer.get()->vt == VT_NULL) {
+      value.clear();
+      return;
+    }
+    OwnedVariant text;
+    XmlCheck(::VariantChangeType(text.get(), answer.get(), 0, VT_BSTR), kSettingsContext);
+    value = FromBstr(text.get()->bstrVal);
+  }
+  void SetValue(const std::string& section, const std::string& key, std::int32_t value, std::int32_t kind,
+                std::int32_t& result) override {
+    OwnedBstr sectionText = ToBstr(section, kSettingsContext);
+    OwnedBstr keyText = ToBstr(key, kSettingsContext);
+    long status = 0;
+    XmlCheck(service_->SetValue(sectionText.get(), keyText.get(), value, kind, &status), kSettingsContext);
+    result = status;
+  }
   void GetTheme(ThemeColors& theme, std::int32_t zero, std::int32_t& result) override {
     static_assert(sizeof(long) == sizeof(std::uint32_t), "the host fills 32-bit entries");
     long answer = 0;
-    XmlCheck(service_->GetTheme(reinterpret_cast<long*>(theme.data()), zero, &answer), "ISettingsService");
+    XmlCheck(service_->GetTheme(reinterpret_cast<long*>(theme.data()), zero, &answer), kSettingsContext);
     result = answer;
+  }
+  void GetDocumentValue(const std::string& document, const std::string& xpath, const std::string& attribute,
+                        std::int32_t kind, std::string& value, std::int32_t& result) override {
+    OwnedBstr documentText = ToBstr(document, kSettingsContext);
+    OwnedBstr xpathText = ToBstr(xpath, kSettingsContext);
+    OwnedBstr attributeText = ToBstr(attribute, kSettingsContext);
+    BSTR answer = nullptr;
+    long status = 0;
+    const HRESULT hr = service_->GetDocumentValue(documentText.get(), xpathText.get(), attributeText.get(), kind,
+                                                  &answer, &status);
+    OwnedBstr owned(answer);  // freed also when the call failed but gave a text
+    XmlCheck(hr, kSettingsContext);
+    value = FromBstr(owned.get());
+    result = status;
+  }
+  void GetDocumentNode(const std::string& document, const std::string& xpath, XmlNode& node,
+                       std::int32_t& result) override {
+    OwnedBstr documentText = ToBstr(document, kSettingsContext);
+    OwnedBstr xpathText = ToBstr(xpath, kSettingsContext);
+    IUnknown* answer = nullptr;
+    long status = 0;
+    const HRESULT hr = service_->GetDocumentNode(documentText.get(), xpathText.get(), &answer, &status);
+    ComRef<IUnknown> owned(answer);
+    XmlCheck(hr, kSettingsContext);
+    // Anything but a DOM node counts as no node.
+    node = XmlWrapUnknown(owned.get());
+    result = status;
   }
 
  private:
@@ -54,7 +133,7 @@ class ComHelpService final : public HelpService {
  public:
   explicit ComHelpService(ComRef<IHelpService> service) : service_(std::move(service)) {}
   void ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags, std::int32_t& result) override {
-    OwnedBstr bookText = ToBstr(book);
+    OwnedBstr bookText = ToBstr(book, "IHelpService");
     long answer = 0;
     XmlCheck(service_->ShowHelp(bookText.get(), topicId, flags, &answer), "IHelpService");
     result = answer;

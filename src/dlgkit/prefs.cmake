@@ -1,0 +1,10 @@
+# Prompts, the colour table, fonts and the small registry key wrapper (see README.md).
+list(APPEND ORV_DLGKIT_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/Prompts.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FontInfo.cpp)
+list(APPEND ORV_DLGKIT_NATIVE_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/native/FontOpsNative.cpp)
+list(APPEND ORV_DLGKIT_WIN32_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/win32/FontOpsWin32.cpp)
+list(APPEND ORV_DLGKIT_FAKE_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/fake/FakeFontOps.cpp)
