@@ -126,7 +126,12 @@ void ScriptDriver::Tick()
         }
         return;
     }
-    if (next_ >= steps_.size() || !error_.empty()) {
+    if (!error_.empty()) {
+        // A command failed while it ran (it left a window open): the sheet is cancelled too.
+        Fail(error_, FindThreadSheet());
+        return;
+    }
+    if (next_ >= steps_.size()) {
         KillTimerNow();
         return;
     }

@@ -244,9 +244,11 @@ TEST_F(OrvDialogTest, LoadThemePushesTheThemeToEveryTargetInOrder) {
   EXPECT_EQ(tree.LiveBrushCount(), 2);
 
   EXPECT_EQ(tree.ReceiversOf(WM_ORV_THEME), (std::vector<WindowHandle>{push, ownerDrawn, colorWnd, edit}));
-  for (auto& sent : tree.Sent())
-    if (sent.message == WM_ORV_THEME)
+  for (auto& sent : tree.Sent()) {
+    if (sent.message == WM_ORV_THEME) {
       EXPECT_EQ(sent.lParam, reinterpret_cast<std::intptr_t>(&dialog.GetThemeColors()));
+    }
+  }
   auto* button = static_cast<const COrvButton*>(ObjectFor(dialog, push));
   EXPECT_EQ(button->faceColor, theme[1]);
   ASSERT_FALSE(tree.Invalidations().empty());
