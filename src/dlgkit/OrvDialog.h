@@ -12,6 +12,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "dlgkit/HostServices.h"
@@ -117,6 +118,10 @@ class COrvDialog {
       case orv::kWmCtlColorStatic:
         return AnswerColor(dc, m_backgroundBrush, m_colors[0], result);
       case orv::kWmCtlColorEdit:
+        // A date picker asks for its field's brush but draws its text in the system's colour:
+        // it keeps the system's field, or a dark theme would hide its date.
+        if (IsDatePicker(reinterpret_cast<orv::WindowHandle>(lParam))) return false;
+        return AnswerColor(dc, m_fieldBrush, m_colors[4], result);
       case orv::kWmCtlColorListBox:
         return AnswerColor(dc, m_fieldBrush, m_colors[4], result);
       default:
@@ -157,6 +162,12 @@ class COrvDialog {
   std::vector<orv::WindowHandle> m_themeTargets;
 
  private:
+  bool IsDatePicker(orv::WindowHandle control) {
+    char name[32] = {};
+    return control && m_ops->GetClassNameA(control, name, sizeof name) > 0 &&
+           std::string_view(name) == "SysDateTimePick32";
+  }
+
   bool AnswerColor(orv::DeviceContext dc, const orv::Brush& brush, std::uint32_t brushColor,
                    std::intptr_t& result) {
     if (!m_hookCalled) {

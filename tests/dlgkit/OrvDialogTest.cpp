@@ -325,6 +325,9 @@ TEST_F(OrvDialogTest, ThemeMessagesWithTheme) {
   ASSERT_TRUE(dialog.ProcessThemeMessage(dlg, orv::kWmCtlColorListBox, 0x60, 0, result));
   EXPECT_EQ(result, reinterpret_cast<std::intptr_t>(dialog.GetFieldBrush()));
   EXPECT_EQ(dialog.firstColorCalls, 1);
+  // A date picker writes in the system's text colour: it keeps the system's field.
+  const WindowHandle picker = tree.AddChild(dlg, "SysDateTimePick32", 0, 1465);
+  EXPECT_FALSE(dialog.ProcessThemeMessage(dlg, orv::kWmCtlColorEdit, 0x60, reinterpret_cast<std::intptr_t>(picker), result));
 
   ASSERT_TRUE(dialog.ProcessThemeMessage(dlg, orv::kWmEraseBkgnd, 0x60, 0, result));
   EXPECT_EQ(tree.BrushColor(tree.Dc(dc).fills.back().second), theme[0]);
