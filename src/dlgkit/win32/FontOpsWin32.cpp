@@ -7,8 +7,12 @@ namespace orv {
 static_assert(sizeof(LogFont) == sizeof(LOGFONTA), "LogFont has the shape of LOGFONTA");
 static_assert(kLfFaceSize == LF_FACESIZE);
 
-LOGFONTA ToLOGFONTA(const LogFont& font) {
-  LOGFONTA out{};
+namespace {
+
+// LogFont has the fields of LOGFONTA, name for name: one copy serves both directions.
+template <typename To, typename From>
+To CopyLogFont(const From& font) {
+  To out{};
   out.lfHeight = font.lfHeight;
   out.lfWidth = font.lfWidth;
   out.lfEscapement = font.lfEscapement;
@@ -27,24 +31,11 @@ LOGFONTA ToLOGFONTA(const LogFont& font) {
   return out;
 }
 
-LogFont FromLOGFONTA(const LOGFONTA& font) {
-  LogFont out;
-  out.lfHeight = font.lfHeight;
-  out.lfWidth = font.lfWidth;
-  out.lfEscapement = font.lfEscapement;
-  out.lfOrientation = font.lfOrientation;
-  out.lfWeight = font.lfWeight;
-  out.lfItalic = font.lfItalic;
-  out.lfUnderline = font.lfUnderline;
-  out.lfStrikeOut = font.lfStrikeOut;
-  out.lfCharSet = font.lfCharSet;
-  out.lfOutPrecision = font.lfOutPrecision;
-  out.lfClipPrecision = font.lfClipPrecision;
-  out.lfQuality = font.lfQuality;
-  out.lfPitchAndFamily = font.lfPitchAndFamily;
-  std::memcpy(out.lfFaceName, font.lfFaceName, LF_FACESIZE);
-  return out;
-}
+}  // namespace
+
+LOGFONTA ToLOGFONTA(const LogFont& font) { return CopyLogFont<LOGFONTA>(font); }
+
+LogFont FromLOGFONTA(const LOGFONTA& font) { return CopyLogFont<LogFont>(font); }
 
 namespace {
 
