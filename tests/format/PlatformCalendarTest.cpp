@@ -38,6 +38,21 @@ TEST(PlatformCalendar, BreaksDownAsVarUdateFromDate) {
   });
 }
 
+TEST(PlatformCalendar, BreaksDownAsVariantTimeToSystemTime) {
+  ForSpreadDates([](double date) {
+    SYSTEMTIME platform{};
+    ASSERT_TRUE(::VariantTimeToSystemTime(date, &platform)) << date;
+    orv::DateParts parts;
+    ASSERT_TRUE(orv::BreakDownDate(date, parts)) << date;
+    EXPECT_EQ(parts.year, platform.wYear) << date;
+    EXPECT_EQ(parts.month, platform.wMonth) << date;
+    EXPECT_EQ(parts.day, platform.wDay) << date;
+    EXPECT_EQ(parts.hour, platform.wHour) << date;
+    EXPECT_EQ(parts.minute, platform.wMinute) << date;
+    EXPECT_EQ(parts.second, platform.wSecond) << date;
+  });
+}
+
 TEST(PlatformCalendar, MakesDatesAsSystemTimeToVariantTime) {
   ForSpreadDates([](double date) {
     orv::DateParts parts;
