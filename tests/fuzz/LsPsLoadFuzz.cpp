@@ -1,5 +1,5 @@
 // Any text as the host's document: the sheet reads it, builds its pages, and a user changes the
-// Advanced page where there is one and presses OK. Refusals are XmlComError; nothing else may
+// Advanced page where it is the first tab and presses OK (then Cancel, if a page refused). Refusals are XmlComError; nothing else may
 // escape, and nothing may crash or leak.
 
 #include <cstddef>
@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "../linestudies/LsPageLayouts.h"
 #include "dlgkit/fake/HeadlessSheetRunner.h"
 #include "linestudies/LineStudiesRes.h"
 #include "linestudies/LsPs.h"
@@ -32,13 +33,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CountingOwner owner;
   CLsPs<CountingOwner> sheet(&owner);
   orv::HeadlessSheetRunner runner;
-  runner.SetLayout(IDD_LS_PG_ADVANCED, [](orv::FakeControls& controls) {
-    controls.AddRadio(IDC_LS_ATTACH_SYMBOL, 1).AddRadio(IDC_LS_ATTACH_CHART, 1).AddRadio(IDC_LS_ATTACH_SCREEN, 1);
-    controls.Control(IDC_LS_ATTACH_SCREEN).visible = false;
-  });
+  lstest::SetLsLayouts(runner);  // every built page may be named, in any order
   runner.SetScript([](orv::HeadlessSheetRunner& run) {
-    if (run.Sheet().PageCount() > 0 && run.Sheet().CurrentPage() == 0) run.Tab(0).Click(IDC_LS_ATTACH_CHART);
-    run.Sheet().PressOk();
+    if (run.Sheet().PageCount() > 0 && run.Sheet().CurrentPage() == 0) {
+      orv::FakeControls& first = run.Tab(0);
+      // The Advanced page's choice, where the first tab is that page.
+      if (first.HasDlgItem(IDC_LS_ATTACH_CHART) && first.IsDlgItemVisible(IDC_LS_ATTACH_CHART))
+        first.Click(IDC_LS_ATTACH_CHART);
+    }
+    if (!run.Sheet().PressOk()) run.Sheet().PressCancel();  // a page that refused OK keeps the sheet open
   });
   try {
     sheet.InitFromXml(XmlFindNode(document, "PropertySheet", true));
