@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building, testing and the demo need, when any is missing.
 # Debian 12; only Debian's own packages. Runs apt as root, or through sudo.
+# fonts-wine: Wine draws captions and their buttons with its own fonts; without them a close
+# button shows as a letter in every picture.
 set -euo pipefail
 
 packages=(
   cmake ninja-build g++ clang libclang-rt-14-dev
   libgtest-dev googletest libgmock-dev libbenchmark-dev libpugixml-dev
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools binutils-mingw-w64
-  wine64 wine libwine-dev wine64-tools
+  wine64 wine libwine-dev wine64-tools fonts-wine
   xvfb xauth imagemagick x11-utils xdotool
 )
 
