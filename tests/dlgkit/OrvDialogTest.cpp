@@ -50,16 +50,6 @@ class OrvDialogTest : public ::testing::Test {
   WindowHandle dlg = tree.CreateDialogWindow();
 };
 
-TEST(ThemeColorsTest, DefaultsAreTheHostsDocumentedOnes) {
-  const std::uint32_t expected[26] = {0xF0F0F0, 0x989898, 0x800000, 0x000000, 0xF0F0F0, 0xC0C0C0, 0x009500,
-                                      0xF0F0F0, 0,        0x00FF00, 0x0000FF, 0xC0C0C0, 0xF0F0F0, 0,
-                                      0x808080, 0,        0x0000FF, 0x009500, 0xFFFF00, 0,        0x00FFFF,
-                                      0x00FFFF, 0,        0xC0FFFF, 0,        0xC0FFFF};
-  ThemeColors colors;
-  for (int i = 0; i < 26; ++i) EXPECT_EQ(colors[i], expected[i]) << "index " << i;
-  for (int i = 26; i < ThemeColors::kCount; ++i) EXPECT_EQ(colors[i], 0u) << "index " << i;
-}
-
 TEST_F(OrvDialogTest, ConstructionMakesDefaultBrushesAndScale) {
   tree.SetDisplayLogPixelsY(144);
   {

@@ -6,7 +6,6 @@
 #include <fstream>
 #include <random>
 
-#include "dlgkit/Clock.h"
 #include "dlgkit/SettingsStore.h"
 #include "SettingsStoreRules.h"
 
@@ -112,15 +111,6 @@ TEST(SettingsStoreFormat, SerializedTextParsesBackToTheSameValues) {
   MemorySettingsStore back = FileSettingsStore::Parse(FileSettingsStore::Serialize(store));
   EXPECT_EQ(back.ReadString("Software\\A", everyByte), everyByte);
   EXPECT_EQ(back.ReadDword("Software\\B", ""), 0u);
-}
-
-TEST(Clock, FixedClockGivesItsDayAndTime) {
-  orv::FixedClock clock({2024, 2, 29, 13, 45, 7});
-  EXPECT_EQ(clock.Now(), (orv::DateTime{2024, 2, 29, 13, 45, 7}));
-  EXPECT_EQ(clock.Today(), (orv::DateTime{2024, 2, 29, 0, 0, 0}));
-  const orv::DateTime now = orv::SystemClock().Now();
-  EXPECT_GE(now.year, 2020);
-  EXPECT_TRUE(now.month >= 1 && now.month <= 12 && now.day >= 1 && now.day <= 31);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Each themed control class takes exactly its indices of the theme record.
+// Themed controls: the theme message, their colours where the platform sees them, their brushes.
 #include "dlgkit/ThemedControls.h"
 
 #include <gtest/gtest.h>
@@ -29,85 +29,35 @@ bool SendTheme(COrvThemedControl& control, const ThemeColors& theme) {
 struct ControlCase {
   const char* name;
   std::function<std::unique_ptr<COrvThemedControl>()> make;
-  // The colours as read from the control, and the indices they must come from.
-  std::function<std::vector<std::uint32_t>(const COrvThemedControl&)> colours;
-  std::vector<int> indices;
-  bool invalidatesOnTheme;
 };
 
 template <class C>
-std::function<std::unique_ptr<COrvThemedControl>()> Make() {
-  return [] { return std::make_unique<C>(); };
+ControlCase Case(const char* name) {
+  return {name, [] { return std::make_unique<C>(); }};
 }
 
-template <class C>
-const C& As(const COrvThemedControl& control) {
-  return static_cast<const C&>(control);
-}
-
-const std::vector<ControlCase>& Cases() {
-  static const std::vector<ControlCase> cases = {
-      {"COrvButton", Make<COrvButton>(),
-       [](auto& c) { auto& b = As<COrvButton>(c); return std::vector<std::uint32_t>{b.textColor, b.faceColor, b.disabledColor, b.selectedColor}; },
-       {3, 1, 7, 6}, false},
-      {"COrvRadioOrCheck", Make<COrvRadioOrCheck>(),
-       [](auto& c) { auto& b = As<COrvRadioOrCheck>(c); return std::vector<std::uint32_t>{b.textColor, b.faceColor, b.disabledColor, b.selectedColor, b.backgroundColor}; },
-       {3, 1, 7, 6, 0}, false},
-      {"COrvComboBox", Make<COrvComboBox>(),
-       [](auto& c) { auto& b = As<COrvComboBox>(c); return std::vector<std::uint32_t>{b.backgroundColor, b.listColor, b.textColor, b.disabledColor, b.listTextColor}; },
-       {4, 0, 3, 7, 3}, true},
-      {"COrvEditCtrl", Make<COrvEditCtrl>(),
-       [](auto& c) { auto& b = As<COrvEditCtrl>(c); return std::vector<std::uint32_t>{b.backgroundColor, b.textColor, b.disabledColor}; },
-       {4, 3, 7}, true},
-      {"COrvGroupBox", Make<COrvGroupBox>(),
-       [](auto& c) { auto& b = As<COrvGroupBox>(c); return std::vector<std::uint32_t>{b.textColor, b.frameColor}; },
-       {3, 3}, true},
-      {"COrvListBox", Make<COrvListBox>(),
-       [](auto& c) { auto& b = As<COrvListBox>(c); return std::vector<std::uint32_t>{b.backgroundColor, b.textColor, b.selectedTextColor}; },
-       {4, 3, 3}, true},
-      {"COrvListViewCtrl", Make<COrvListViewCtrl>(),
-       [](auto& c) { auto& b = As<COrvListViewCtrl>(c); return std::vector<std::uint32_t>{b.headerFaceColor, b.headerTextColor, b.backgroundColor, b.textBackgroundColor, b.textColor}; },
-       {1, 3, 4, 4, 3}, true},
-      {"COrvHeader", Make<COrvHeader>(),
-       [](auto& c) { auto& b = As<COrvHeader>(c); return std::vector<std::uint32_t>{b.faceColor, b.textColor}; },
-       {1, 3}, true},
-      {"COrvStaticText", Make<COrvStaticText>(),
-       [](auto& c) { auto& b = As<COrvStaticText>(c); return std::vector<std::uint32_t>{b.textColor, b.disabledColor, b.backgroundColor}; },
-       {3, 7, 0}, true},
-      {"COrvTabbyCtrl", Make<COrvTabbyCtrl>(),
-       [](auto& c) { auto& b = As<COrvTabbyCtrl>(c); return std::vector<std::uint32_t>{b.backgroundColor, b.textColor, b.selectedColor, b.faceColor}; },
-       {0, 3, 6, 1}, true},
-      {"COrvUpDownCtrl", Make<COrvUpDownCtrl>(),
-       [](auto& c) { auto& b = As<COrvUpDownCtrl>(c); return std::vector<std::uint32_t>{b.backgroundColor, b.arrowColor, b.frameColor, b.disabledColor}; },
-       {4, 3, 3, 7}, true},
+// Every themed class: unthemed until the record arrives, themed by the dialog's message through
+// its window, and gone from the window, with its brushes, when the object goes.
+TEST(ThemedControlsTest, EachClassIsThemedThroughItsWindowAndLetsGoOfIt) {
+  const ControlCase cases[] = {
+      Case<COrvButton>("COrvButton"),         Case<COrvRadioOrCheck>("COrvRadioOrCheck"),
+      Case<COrvComboBox>("COrvComboBox"),     Case<COrvEditCtrl>("COrvEditCtrl"),
+      Case<COrvGroupBox>("COrvGroupBox"),     Case<COrvListBox>("COrvListBox"),
+      Case<COrvListViewCtrl>("COrvListViewCtrl"), Case<COrvHeader>("COrvHeader"),
+      Case<COrvStaticText>("COrvStaticText"), Case<COrvTabbyCtrl>("COrvTabbyCtrl"),
+      Case<COrvUpDownCtrl>("COrvUpDownCtrl"),
   };
-  return cases;
-}
-
-TEST(ThemedControlsTest, EachClassTakesItsIndicesAndNoOthers) {
-  for (auto& c : Cases()) {
+  for (auto& c : cases) {
     SCOPED_TRACE(c.name);
     FakeWindowTree tree;
     auto dialog = tree.CreateDialogWindow();
     auto window = tree.AddChild(dialog, "X", 0, 1);
     auto control = c.make();
     ASSERT_TRUE(control->SubclassWindow(tree, window));
-    for (auto colour : c.colours(*control)) EXPECT_EQ(colour, orv::kNoColor);  // system colours until themed
     EXPECT_FALSE(control->IsThemed());
-
-    ASSERT_TRUE(SendTheme(*control, IndexedTheme()));
-    std::vector<std::uint32_t> expected;
-    for (int index : c.indices) expected.push_back(From(index));
-    EXPECT_EQ(c.colours(*control), expected);
+    const ThemeColors theme = IndexedTheme();
+    tree.SendMessageA(window, WM_ORV_THEME, 0, reinterpret_cast<std::intptr_t>(&theme));
     EXPECT_TRUE(control->IsThemed());
-    bool invalidated = false;
-    for (auto& inv : tree.Invalidations()) invalidated |= inv.window == window;
-    EXPECT_EQ(invalidated, c.invalidatesOnTheme);
-    // Through the window, as the dialog sends it.
-    auto second = IndexedTheme();
-    second[c.indices[0]] = 0x123456;
-    tree.SendMessageA(window, WM_ORV_THEME, 0, reinterpret_cast<std::intptr_t>(&second));
-    EXPECT_EQ(c.colours(*control)[0], 0x123456u);
     control.reset();
     EXPECT_EQ(tree.SubclassedBy(window), nullptr);
     EXPECT_EQ(tree.LiveBrushCount(), 0);
