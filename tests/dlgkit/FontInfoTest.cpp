@@ -7,7 +7,6 @@
 #include <climits>
 #include <cstring>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "dlgkit/fake/FakeFontOps.h"
@@ -143,28 +142,6 @@ TEST_F(FontInfoTest, WriteHoldsHeightInThirtyTwoBits) {
     XmlGetAttr(element, "Height", height);
     EXPECT_EQ(height, c.height) << c.ptSize;
   }
-}
-
-TEST_F(FontInfoTest, RoundTripKeepsWhatTheFormatHolds) {
-  CFontInfo written;
-  written.FaceName = "Times New Roman";
-  written.PtSize = -11;
-  written.Width = 4;
-  written.Weight = 300;
-  written.Italic = 1;
-  written.Underline = 1;
-  written.PitchAndFamily = 1;
-  XmlNode document = Load("<Root/>");
-  written.Write(XmlFindNode(document, "Root", true));
-  CFontInfo read;
-  ASSERT_TRUE(read.Read(document));
-  EXPECT_EQ(read.FaceName, written.FaceName);
-  EXPECT_EQ(read.PtSize, written.PtSize);
-  EXPECT_EQ(read.Width, written.Width);
-  EXPECT_EQ(read.Weight, written.Weight);
-  EXPECT_EQ(read.Italic, written.Italic);
-  EXPECT_EQ(read.Underline, written.Underline);
-  EXPECT_EQ(read.PitchAndFamily, written.PitchAndFamily);
 }
 
 TEST_F(FontInfoTest, PitchAndFamily34IsWrittenAndReadAsZero) {
@@ -331,35 +308,5 @@ TEST_F(FontInfoTest, NoFontForAnEmptyFaceAZeroHeightOrAFailedCreation) {
   ASSERT_NE(read.GetFont(), nullptr);
   EXPECT_EQ(ops.Created().back().lfHeight, -21);
 }
-
-TEST_F(FontInfoTest, SharedCountsHoldAcrossThreads) {
-  CFontInfo info = Record("Arial", 9);
-  const orv::FontRef font = info.MakeFont();
-  ASSERT_NE(font, nullptr);
-  std::vector<std::thread> threads;
-  for (int t = 0; t < 4; ++t) {
-    threads.emplace_back([font] {
-      for (int i = 0; i < 10000; ++i) {
-        orv::FontRef copy = font;
-        copy.reset();
-      }
-    });
-  }
-  for (auto& thread : threads) thread.join();
-  EXPECT_EQ(font.use_count(), 2);  // `font` and the record
-  EXPECT_EQ(ops.DeletedCount(), 0);
-}
-
-#ifndef _WIN32
-TEST(FontInfoNativeTest, TheHeadlessScreenMakesNoFonts) {
-  CFontInfo info;
-  info.FaceName = "Arial";
-  info.PtSize = 9;
-  EXPECT_EQ(info.MakeFont(), nullptr);
-  LogFont font;
-  info.ToLogFont(font);
-  EXPECT_EQ(font.lfHeight, -12);  // 96 DPI
-}
-#endif
 
 }  // namespace

@@ -21,48 +21,6 @@ TEST(HostServicesTest, ShowHelpGoesToTheHelpServiceOrAnswersMinusOne) {
   EXPECT_TRUE(host.AllExpectationsMet());
 }
 
-TEST(HostServicesTest, FakeRefusesWhatNobodyExpected) {
-  FakeHostServices host;
-  orv::ScopedHostServices scope(host);
-  EXPECT_THROW(orv::ShowHelp("CHARTX", 1), orv::UnexpectedHostCall);
-  host.ExpectHelp("CHARTX", 1, 0, 0);
-  EXPECT_THROW(orv::ShowHelp("CHARTX", 2), orv::UnexpectedHostCall);  // other arguments
-  EXPECT_THROW(host.CreateSettingsService(), orv::UnexpectedHostCall);
-  EXPECT_EQ(host.UnexpectedCalls().size(), 3u);
-  EXPECT_FALSE(host.AllExpectationsMet());  // the expected help call never happened
-}
-
-TEST(HostServicesTest, FakeSettingsServiceFailsWithTheGivenStatus) {
-  FakeHostServices host;
-  host.ExpectThemeFailure(orv::kStatusFail);
-  auto service = host.CreateSettingsService();
-  ASSERT_NE(service, nullptr);
-  ThemeColors theme;
-  std::int32_t result = 0;
-  try {
-    service->GetTheme(theme, 0, result);
-    ADD_FAILURE() << "no exception";
-  } catch (const XmlComError& error) {
-    EXPECT_EQ(error.status(), orv::kStatusFail);
-  }
-}
-
-TEST(HostServicesTest, ScopedHostsNestAndRestore) {
-  orv::HostServices& platform = orv::CurrentHostServices();
-  FakeHostServices outer, inner;
-  {
-    orv::ScopedHostServices a(outer);
-    EXPECT_EQ(&orv::CurrentHostServices(), &outer);
-    {
-      orv::ScopedHostServices b(inner);
-      EXPECT_EQ(&orv::CurrentHostServices(), &inner);
-    }
-    EXPECT_EQ(&orv::CurrentHostServices(), &outer);
-  }
-  EXPECT_EQ(&orv::CurrentHostServices(), &platform);
-  EXPECT_EQ(&platform, &orv::PlatformHostServices());
-}
-
 TEST(HostServicesTest, InProcessHostServesItsThemeAndNoHelp) {
   ThemeColors served;
   served[0] = 0x203040;
@@ -79,12 +37,5 @@ TEST(HostServicesTest, InProcessHostServesItsThemeAndNoHelp) {
   EXPECT_EQ(received[30], 0x0A0B0Cu);
   EXPECT_EQ(orv::ShowHelp("CHARTX", 1), -1);
 }
-
-#ifndef _WIN32
-TEST(HostServicesTest, NativeBuildHasNoHost) {
-  EXPECT_EQ(orv::PlatformHostServices().CreateSettingsService(), nullptr);
-  EXPECT_EQ(orv::PlatformHostServices().CreateHelpService(), nullptr);
-}
-#endif
 
 }  // namespace

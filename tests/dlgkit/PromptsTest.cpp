@@ -7,9 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "dlgkit/OrvDialog.h"
 #include "dlgkit/fake/FakeHostServices.h"
-#include "dlgkit/fake/FakeWindowTree.h"
 #include "xml/Xml.h"
 
 namespace {
@@ -75,17 +73,6 @@ TEST_F(HostPrefsTest, PromptCallFailureRaises) {
   }
 }
 
-TEST_F(HostPrefsTest, StrictHostRefusesAnotherCallThanStated) {
-  host.ExpectTheme(ThemeColors());
-  EXPECT_THROW(orv::GetPrompt("OK"), orv::UnexpectedHostCall);
-  host.ExpectDocumentValue("LANGUAGE", PromptXPath("Other"), "", 17, "x", 0);
-  EXPECT_THROW(orv::GetPrompt("OK"), orv::UnexpectedHostCall);
-  EXPECT_EQ(host.UnexpectedCalls().size(), 2u);
-  // Both services stay waiting for their one call: the fake says so.
-  EXPECT_FALSE(host.AllExpectationsMet());
-  host = FakeHostServices();  // this test's failures are the point; start clean for TearDown
-}
-
 XmlNode LoadPrefs(const std::string& text) {
   XmlNode document = XmlCreateDocument();
   EXPECT_TRUE(XmlLoadString(document, text));
@@ -137,58 +124,6 @@ TEST_F(HostPrefsTest, ColorTableWithoutServiceOrWithFailedCallRaises) {
     }
   }
   EXPECT_TRUE(list.empty());
-}
-
-TEST_F(HostPrefsTest, ValuesAreAskedAndStoredThroughTheService) {
-  host.ExpectValue("LinePpgX", "Caption", "Lines");
-  host.ExpectSetValue("Displays/Seasonal", "ByWizard", 1, 4);
-  auto settings = orv::CurrentHostServices().CreateSettingsService();
-  std::string value;
-  std::int32_t result = -1;
-  settings->GetValue("LinePpgX", "Caption", value, result);
-  EXPECT_EQ(value, "Lines");
-  EXPECT_EQ(result, 0);
-  settings = orv::CurrentHostServices().CreateSettingsService();
-  settings->SetValue("Displays/Seasonal", "ByWizard", 1, 4, result);
-  EXPECT_EQ(result, 0);
-}
-
-TEST_F(HostPrefsTest, HelpIsTheServicesResultOrMinusOne) {
-  host.ExpectHelp("CHARTX", 1301, 0, 0);
-  host.ExpectHelp("CHARTX", 1302, 0, 5);
-  host.ExpectNoHelpService();
-  EXPECT_EQ(orv::ShowHelp("CHARTX", 1301), 0);
-  EXPECT_EQ(orv::ShowHelp("CHARTX", 1302, 0), 5);
-  EXPECT_EQ(orv::ShowHelp("CHARTX", 1303), -1);
-}
-
-class ThemedDialog : public COrvDialog<ThemedDialog> {
- public:
-  using COrvDialog::COrvDialog;
-};
-
-TEST_F(HostPrefsTest, RefreshThemePushesTheHostsThemeOrKeepsTheDefaults) {
-  orv::FakeWindowTree tree;
-  const orv::WindowHandle dialogWindow = tree.CreateDialogWindow();
-  ThemedDialog dialog(tree);
-  dialog.AttachWindow(tree, dialogWindow);
-  dialog.SubclassControls();
-
-  host.ExpectNoSettingsService();
-  host.ExpectNoTheme(3);
-  EXPECT_FALSE(orv::RefreshTheme(dialog));
-  EXPECT_FALSE(orv::RefreshTheme(dialog));
-  EXPECT_FALSE(dialog.IsThemeActive());
-  EXPECT_EQ(dialog.GetThemeColors()[0], 0xF0F0F0u);
-
-  ThemeColors theme;
-  theme[0] = 0x112233;
-  theme[4] = 0x445566;
-  host.ExpectTheme(theme);
-  EXPECT_TRUE(orv::RefreshTheme(dialog));
-  EXPECT_TRUE(dialog.IsThemeActive());
-  EXPECT_EQ(dialog.GetThemeColors()[0], 0x112233u);
-  EXPECT_EQ(dialog.GetThemeColors()[4], 0x445566u);
 }
 
 }  // namespace

@@ -58,10 +58,4 @@ TEST_F(RegistryStoreTest, StringsWithoutTerminatorOrWithInnerNulsReadUpToTheNul)
   EXPECT_EQ(store_.ReadString(key_, "Long"), longText);
 }
 
-TEST_F(RegistryStoreTest, CreateUserSettingsStoreIsTheRegistry) {
-  auto store = orv::CreateUserSettingsStore();
-  ASSERT_TRUE(store->WriteDword(key_, "Via", 9));
-  EXPECT_EQ(store_.ReadDword(key_, "Via"), 9u);
-}
-
 }  // namespace

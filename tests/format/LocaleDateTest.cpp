@@ -73,18 +73,4 @@ TEST(LocaleDate, Id224IsTheUsersDefaultLocale) {
   EXPECT_EQ(locale.askedLocale, 0u);
 }
 
-TEST(LocaleDate, ScopesNestAndRestore) {
-  FakeDateLocale outer, inner;
-  inner.picture = "yyyy";
-  {
-    orv::ScopedDateLocale first(outer);
-    {
-      orv::ScopedDateLocale second(inner);
-      EXPECT_EQ(FormatLocaleDate(kAfternoon, 0), "2009");
-    }
-    EXPECT_EQ(FormatLocaleDate(kAfternoon, 0), "06.07.2009");
-  }
-  EXPECT_EQ(&orv::CurrentDateLocale(), &orv::PlatformDateLocale());
-}
-
 }  // namespace

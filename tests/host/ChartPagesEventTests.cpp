@@ -4,14 +4,9 @@
 
 #include <oleauto.h>
 
-#include <commctrl.h>
-#include <prsht.h>
-
 #include <functional>
 #include <string>
 #include <vector>
-
-#include "linestudies/LineStudiesRes.h"
 
 namespace orv::host::testing {
 namespace {
@@ -136,12 +131,6 @@ class StatusEventTest : public ChartPagesTest {
   ComPtr<IConnectionPoint> point_;
   std::vector<Received> journal_;
 };
-
-TEST_F(StatusEventTest, NoSinkFiresNothingAndAnswersZero) {
-  std::int32_t result = 5;
-  EXPECT_EQ(Object(pages_).FireStatusEvent(0, "<PropertySheet/>", 0, "", result), 0);
-  EXPECT_EQ(result, 5);
-}
 
 TEST_F(StatusEventTest, EverySinkGetsTheCallInOrderAndTheLastStatusIsTheResult) {
   StrictSink first("first", journal_, 11, S_OK);
@@ -307,95 +296,6 @@ TEST_F(StatusEventTest, SinksMayConnectAndDisconnectFromInsideTheEvent) {
   point_->Unadvise(reusedCookie);
   point_->Unadvise(nextCookie);
   point_->Unadvise(appendedCookie);
-}
-
-// Plays steps against the sheet that is up, one per timer tick; cancels whatever is left up
-// afterwards so a fault can't hang the test.
-class SheetUser {
- public:
-  using Step = std::function<void(HWND sheet, HWND page)>;
-  explicit SheetUser(std::vector<Step> steps) : steps_(std::move(steps)) {
-    current_ = this;
-    timer_ = SetTimer(nullptr, 0, 40, &SheetUser::Tick);
-  }
-  ~SheetUser() {
-    KillTimer(nullptr, timer_);
-    current_ = nullptr;
-  }
-  HWND parentSeen = nullptr;
-
- private:
-  static BOOL CALLBACK FindSheet(HWND window, LPARAM found) {
-    if (!IsWindowVisible(window) || !SendMessageA(window, PSM_GETCURRENTPAGEHWND, 0, 0)) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-  }
-  static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
-    SheetUser* user = current_;
-    HWND sheet = nullptr;
-    if (user == nullptr) return;
-    EnumThreadWindows(GetCurrentThreadId(), &FindSheet, reinterpret_cast<LPARAM>(&sheet));
-    if (sheet == nullptr) return;
-    HWND page = reinterpret_cast<HWND>(SendMessageA(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
-    user->parentSeen = GetWindow(sheet, GW_OWNER);
-    if (user->next_ < user->steps_.size())
-      user->steps_[user->next_++](sheet, page);
-    else if (++user->idle_ > 25)
-      PostMessageA(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
-  }
-  static inline SheetUser* current_ = nullptr;
-  std::vector<Step> steps_;
-  size_t next_ = 0;
-  int idle_ = 0;
-  UINT_PTR timer_ = 0;
-};
-
-// The whole path: the host's request through DoModal2, the line study sheet on the platform's
-// sheet, the user's change, one StatusEvent with that page alone, the sheet's result.
-TEST_F(StatusEventTest, LineStudySheetRunsAndSendsTheChangedPageToTheSinks) {
-  XmlNode document = Document(
-      "<Chart><Study><PropertySheet Name=\"LSPs\" Title=\"Trendline\"><PropertyPageList>"
-      "<PropertyPage Name=\"LsPgAdvanced\"><AlwaysVisible>FALSE</AlwaysVisible></PropertyPage>"
-      "</PropertyPageList></PropertySheet></Study></Chart>");
-  std::string before = XmlGetXml(document);
-  StrictSink sink("sink", journal_, 0, S_OK);
-  DWORD cookie = Advise(sink);
-  LONG result = -7;
-  {
-    SheetUser user({[](HWND sheet, HWND page) {
-      SendMessageA(GetDlgItem(page, IDC_LS_ATTACH_CHART), BM_CLICK, 0, 0);
-      SendMessageA(sheet, PSM_PRESSBUTTON, PSBTN_OK, 0);
-    }});
-    ASSERT_EQ(pages_->DoModal2(XmlDomNodeOf(document), nullptr, &result), S_OK);
-  }
-  EXPECT_EQ(result, 1) << "closed with a change";
-  ASSERT_EQ(journal_.size(), 1u);
-  EXPECT_EQ(journal_[0].type, 0);
-  EXPECT_EQ(journal_[0].extra, L"");
-  // One sheet with that one page, as the page saved it.
-  const std::wstring& value = journal_[0].value;
-  XmlNode sent = Document(std::string(value.begin(), value.end()).c_str());
-  XmlNode sentSheet = XmlFirstChild(sent);
-  std::string text;
-  ASSERT_TRUE(XmlGetAttr(sentSheet, "Name", text));
-  EXPECT_EQ(text, "LSPs");
-  XmlNode page = XmlFindNode(sentSheet, "PropertyPage", true);
-  ASSERT_TRUE(XmlGetAttr(page, "Name", text));
-  EXPECT_EQ(text, "LsPgAdvanced");
-  EXPECT_FALSE(XmlFindNode(XmlNextSibling(page), "PropertyPage", false));
-  ASSERT_TRUE(XmlGetChildText(page, "AlwaysVisible", text));
-  EXPECT_EQ(text, "TRUE") << "the user's click";
-  EXPECT_EQ(XmlGetXml(document), before) << "the host's document is only read";
-
-  // Cancel: result 0, nothing sent.
-  journal_.clear();
-  {
-    SheetUser user({[](HWND sheet, HWND) { SendMessageA(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0); }});
-    ASSERT_EQ(pages_->DoModal(XmlDomNodeOf(document), &result), S_OK);
-  }
-  EXPECT_EQ(result, 0);
-  EXPECT_TRUE(journal_.empty());
-  point_->Unadvise(cookie);
 }
 
 TEST_F(StatusEventTest, ReleasingTheObjectReleasesItsSinks) {

@@ -22,24 +22,6 @@ using namespace orv::host::testing;
 using orv::host::CanUnloadNow;
 using orv::host::ModuleLock;
 
-TEST(ModuleCount, UnloadIsRefusedWhileAnythingHoldsTheModule)
-{
-    ASSERT_EQ(CanUnloadNow(), S_OK);
-    {
-        ModuleLock object;
-        EXPECT_EQ(CanUnloadNow(), S_FALSE);
-        {
-            ModuleLock copy = object; // a copied object is a second object
-            orv::host::LockModule();  // and a LockServer(TRUE) on a factory
-            orv::host::UnlockModule();
-            EXPECT_EQ(CanUnloadNow(), S_FALSE);
-        }
-        EXPECT_EQ(CanUnloadNow(), S_FALSE);
-    }
-    EXPECT_EQ(CanUnloadNow(), S_OK);
-    EXPECT_EQ(orv::host::ModuleLockCount(), 0);
-}
-
 using GetClassObjectFn = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, LPVOID*);
 using NoArgFn = HRESULT(STDAPICALLTYPE*)();
 

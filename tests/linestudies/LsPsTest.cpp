@@ -47,26 +47,6 @@ constexpr const char* kAdvancedSheet =
     "<PropertyPage Name=\"LsPgAdvanced\"><AlwaysVisible>FALSE</AlwaysVisible></PropertyPage>"
     "</PropertyPageList></PropertySheet></Doc>";
 
-TEST(LsPageTable, HoldsEveryPageOnceInLoadOrder) {
-  const auto table = orv::LsPageTable();
-  ASSERT_EQ(table.size(), 31u);
-  EXPECT_STREQ(table.front().name, "GraphObjLinePg");
-  EXPECT_STREQ(table.back().name, "LsPgLineParallel");
-  for (std::size_t i = 0; i < table.size(); ++i) {
-    for (std::size_t j = i + 1; j < table.size(); ++j) {
-      EXPECT_STRNE(table[i].name, table[j].name);
-      EXPECT_NE(table[i].dialogId, table[j].dialogId) << table[i].name << " / " << table[j].name;
-    }
-  }
-  // The built page's entry agrees with the page itself.
-  const auto& advanced = table[20];
-  EXPECT_STREQ(advanced.name, CLsPgAdvanced::kName);
-  EXPECT_EQ(advanced.dialogId, CLsPgAdvanced::kDialogId);
-  ASSERT_NE(advanced.create, nullptr);
-  EXPECT_EQ(advanced.create()->AsPage().DialogId(), 1352);
-  EXPECT_FALSE(advanced.takesChartData);
-}
-
 TEST(LsPsLoad, TitleAndTabsInOrderUnknownAndUnbuiltNamesPassedOver) {
   FakeSheetOwner owner;
   Sheet sheet(&owner);
@@ -238,26 +218,6 @@ TEST(LsPsApply, SinkFailureEndsTheRunAndReachesTheCaller) {
   });
   EXPECT_THROW(sheet.DoModal(runner), std::runtime_error);
   EXPECT_EQ(owner.events.size(), 1u);
-}
-
-TEST(LsPsChartData, NoBuiltPageTakesIt) {
-  struct NoChart final : orv::ChartData {
-    orv::Status GetValue(std::int32_t, std::int32_t, double&) override { return Unexpected(); }
-    orv::Status GetTimeKind(std::int32_t&) override { return Unexpected(); }
-    orv::Status DateToPos(std::int32_t, std::int32_t, std::int32_t*, std::int32_t&) override { return Unexpected(); }
-    orv::Status PosToDate(std::int32_t, std::int32_t&, std::int32_t&, std::int32_t&) override { return Unexpected(); }
-    orv::Status PosToDateOnly(std::int32_t, std::int32_t&) override { return Unexpected(); }
-    static orv::Status Unexpected() {
-      ADD_FAILURE() << "chart data called";
-      return orv::kStatusFail;
-    }
-  };
-  auto chart = std::make_shared<NoChart>();
-  FakeSheetOwner owner;
-  Sheet sheet(&owner);
-  sheet.InitFromXml(SheetNode(kAdvancedSheet));
-  sheet.SetChartData(chart);
-  EXPECT_EQ(chart.use_count(), 1) << "the Advanced page keeps no chart data";
 }
 
 }  // namespace
