@@ -98,6 +98,17 @@ if [ ! -f "$WINEPREFIX/system.reg" ]; then
   wineserver -w
 fi
 
+# Wine draws captions and their buttons (the close button is the Marlett glyph "r") and the
+# dialog font ("MS Shell Dlg" is Tahoma) with its own TrueType fonts. Debian's fonts-wine
+# installs them, but this Wine loads only the bitmap ones from there: the TrueType ones go into
+# the prefix's font folder, where every Windows program finds its fonts.
+if [ -d /usr/share/wine/fonts ]; then
+  for font in /usr/share/wine/fonts/*.ttf; do
+    [ -e "$font" ] || continue
+    [ -e "$WINEPREFIX/drive_c/windows/Fonts/$(basename "$font")" ] || cp "$font" "$WINEPREFIX/drive_c/windows/Fonts/"
+  done
+fi
+
 # Persistent server, detached from our pipes, then the prefix brought up to date. Plain wineboot:
 # "wineboot -i" on a prefix that exists starts a second service manager, and the RPC service then
 # never starts; every COM creation that may reach a local server (the host services are made with
