@@ -350,7 +350,7 @@ class Scanner {
       if (!name.starts_with("xmlns:")) continue;
       const std::string_view prefix = name.substr(6);
       const std::string uri = Expand(value);
-      if (!IsQualifiedName(prefix) || prefix.find(':') != std::string_view::npos || uri.empty() ||
+      if (prefix.empty() || prefix.find(':') != std::string_view::npos || uri.empty() ||
           prefix == "xmlns" || (prefix == "xml") != (uri == kXmlNamespace))
         return false;
       bindings_.push_back({std::string(prefix), uri, level});
@@ -420,7 +420,8 @@ class Scanner {
           out += static_cast<char>(c);
         } else {
           const int more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-          out += static_cast<char>((0xF00 >> more) | (c >> (6 * more)));
+          const std::uint32_t lead[] = {0, 0xC0, 0xE0, 0xF0};
+          out += static_cast<char>(lead[more] | (c >> (6 * more)));
           for (int k = more - 1; k >= 0; --k) out += static_cast<char>(0x80 | ((c >> (6 * k)) & 0x3F));
         }
       }

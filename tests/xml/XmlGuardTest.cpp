@@ -136,6 +136,7 @@ INSTANTIATE_TEST_SUITE_P(
         VerdictCase{"<a xmlns:b=''/>", XmlTextVerdict::Malformed},
         VerdictCase{"<a xmlns:xml='u'/>", XmlTextVerdict::Malformed},
         VerdictCase{"<a xmlns:b='u'><x xmlns:d='&#117;' b:c='1' d:c='2'/></a>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a xmlns:='u'/>", XmlTextVerdict::Malformed},
         VerdictCase{"<a xmlns:b='u'><x xmlns:b='v' xmlns:d='u' b:c='1' d:c='2'/></a>", XmlTextVerdict::Acceptable},
         VerdictCase{"<a><x xmlns:b='u'/><b:y/></a>", XmlTextVerdict::Malformed},
         VerdictCase{"<a xmlns='' xml:lang='en'><x xmlns='u' c='1'/></a>", XmlTextVerdict::Acceptable}));
@@ -147,6 +148,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(VerdictCase{"<\xC3\xA9t\xC3\xA9 a\xC2\xB7='\xE2\x82\xAC'>\xF0\x9F\x98\x80</\xC3\xA9t\xC3\xA9>",
                                 XmlTextVerdict::Acceptable},
                     VerdictCase{"<a\xC3\x97/>", XmlTextVerdict::Malformed},
+                    VerdictCase{"<a xmlns:b='&#xE9;'><x xmlns:d='\xC3\xA9' b:c='1' d:c='2'/></a>", XmlTextVerdict::Malformed},
                     VerdictCase{"<\xC2\xB7" "a/>", XmlTextVerdict::Malformed},
                     VerdictCase{"<a>\xE9</a>", XmlTextVerdict::BadCharacter},
                     VerdictCase{"<a>\xC0\xBC</a>", XmlTextVerdict::BadCharacter},
