@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds and runs every test of the project, stopping at the first failure:
-#   native (ctest), native-asan (ctest), native-fuzz (each fuzzer's short smoke run),
+#   native (ctest), native-asan (ctest), native-fuzz (each fuzzer's seeds, then a fixed number of
+#   runs from a fixed seed: the same inputs every time),
 #   win64 (ctest under Wine and Xvfb), win32 (compile only).
 # Builds go to build/<preset> and are incremental: a second run reuses them.
 # Environment: ORV_JOBS (parallel jobs, default 2), ORV_SKIP_DEPS=1 (don't check packages).

@@ -1,6 +1,7 @@
 #include "format/DateFormat.h"
 
 #include <cmath>
+#include <limits>
 
 #include "format/Calendar.h"
 #include "format/DateLocale.h"
@@ -67,12 +68,23 @@ const DateFormatRow* FindDateFormat(std::int32_t id) {
   return nullptr;
 }
 
-// The date's time of day to the millisecond: `wholeSeconds` is the date with the milliseconds
-// cut off (a rounding up to 1000 carries into the next second, day included).
-DateObject SplitMilliseconds(double date, double day, int& milliseconds) {
-  const std::int64_t total = std::llround(std::fabs(date - day) * 86400000.0);
-  milliseconds = static_cast<int>(total % 1000);
-  return DateObject(orv::DateFromDayAndSeconds(static_cast<std::int64_t>(day), total / 1000));
+// The conversion of a double to a 32-bit integer as the processor makes it: toward zero, and the
+// "integer indefinite" INT32_MIN for NaN and for values beyond 32 bits.
+std::int32_t ToInt32(double value) {
+  if (!(value > -2147483649.0 && value < 2147483648.0)) return std::numeric_limits<std::int32_t>::min();
+  return static_cast<std::int32_t>(value);
+}
+
+// The milliseconds that forms 258 and 514 print after the seconds: the time of day in
+// milliseconds less its whole hours, minutes and seconds, the rest rounded to the nearest. They
+// are worked out apart from the clock text, which is rounded to the second: 0.999 of a day prints
+// as 23:58:34 and .600, and a rest of 999.5 or more prints as 1000.
+std::int32_t MillisecondsOfDay(double date, double day) {
+  double rest = std::fabs(date - day) * 86400000.0;
+  rest -= std::trunc(rest / 3600000.0) * 3600000.0;
+  rest -= std::trunc(rest / 60000.0) * 60000.0;
+  rest -= std::trunc(rest / 1000.0) * 1000.0;
+  return ToInt32(std::round(rest));
 }
 
 // Seconds since 1 January 1970 as a date of whole minutes. The day count (25567 is 1 January 1970
@@ -102,10 +114,6 @@ int FormatDateValue(double date, std::int32_t formatId, std::string& text) {
     text = object.Format(day < 1.0 ? "%I:%M %p" : "%m/%d/%y");
     return 2;
   }
-  if (object.GetStatus() != DateObject::Status::Valid) {
-    text = orv::InvalidDateText();
-    return 0;
-  }
   switch (row->kind) {
     case RowKind::Mask: {
       const char* mask = row->mask;
@@ -118,16 +126,13 @@ int FormatDateValue(double date, std::int32_t formatId, std::string& text) {
       text = FormatLocaleDate(date, 0);
       break;
     case RowKind::DayAndDate:
-      text = orv::StrFormat("%d (%s)", static_cast<int>(day), object.Format(row->mask).c_str());
+      text = orv::StrFormat("%d (%s)", ToInt32(day), object.Format(row->mask).c_str());
       break;
     case RowKind::Milliseconds24:
-    case RowKind::Milliseconds12: {
-      int milliseconds = 0;
-      const DateObject wholeSeconds = SplitMilliseconds(date, day, milliseconds);
-      text = orv::StrFormat("%s.%03d", wholeSeconds.Format(row->mask).c_str(), milliseconds);
-      if (row->kind == RowKind::Milliseconds12) text += wholeSeconds.Format(" %p");
+    case RowKind::Milliseconds12:
+      text = orv::StrFormat("%s.%03d", object.Format(row->mask).c_str(), MillisecondsOfDay(date, day));
+      if (row->kind == RowKind::Milliseconds12) text += object.Format(" %p");
       break;
-    }
   }
   return 0;
 }

@@ -13,14 +13,16 @@
 // Returns 0, or 2 for the no-date mark " --- " and for an unknown id.
 //
 // A date id (any of the bits in 240) with a whole day of 0 gives " --- ": the host's "no date".
-// Otherwise the id's mask below; a date outside 1 January 100 to 31 December 9999, or not a
-// number, prints as InvalidDateText() under every id. Where two masks are given, the second is
-// for a date without time of day; where a third is given, it is for a whole day below 1.
+// Otherwise the id's mask below. Where two masks are given, the second is for a date without time
+// of day; where a third is given, it is for a whole day below 1. A date outside 1 January 100 to
+// 31 December 9999, or not a number, prints InvalidDateText() wherever a mask would print; the
+// composed forms keep the rest ("2958466 (Invalid DateTime)" under 241, "Invalid DateTime.000"
+// under 258).
 //
 //    16 "%m/%d/%y"        32 "%m-%d-%y"        48 "%d-%b-%y"       64 "%b-%y"
 //    80 "%d/%m/%y"        96 "%d-%m-%y"       112 "%y/%m/%d"      128 "%y-%m-%d"
 //   144 "%#m-%#d-%Y"     192 "%b-%d"          208 "%a %m/%d/%y"   224 FormatLocaleDate(date, 0)
-//   241 "%d (%s)" of the whole day and the date by "%#m-%#d-%Y"
+//   241 "%d (%s)" of the whole day (truncated; INT32_MIN beyond 32 bits) and the date by "%#m-%#d-%Y"
 //   242 "%#m/%#d/%Y"     243 "%#d-%b-%Y"      244 "%B %#d, %Y"
 //   256 "%H:%M"          257 "%H:%M:%S"       258 "%H:%M:%S" then ".%03d" milliseconds
 //   272 "%I:%M%p  %m/%d/%y" (two blanks)
@@ -33,9 +35,11 @@
 //   768 "%I:%M"
 //   unknown: "%I:%M %p" for a whole day below 1, else "%m/%d/%y"; result 2.
 //
-// The masks break the date down rounded to the nearest second, as the platform does. Forms 258 and
-// 514, which show milliseconds, round to the millisecond instead, so that the seconds shown agree
-// with them (12:00:00.700, not 12:00:01.700); before day 0 the time of day is the fraction's size.
+// The masks break the date down rounded to the nearest second, as the platform does; 258 and 514
+// too. Their milliseconds are worked out apart from the mask, from the time of day (before day 0
+// the fraction's size): in milliseconds, less whole hours, minutes and seconds, the rest rounded
+// to the nearest. The two are not reconciled: 0.999 prints "23:58:34.600" under 258, and a rest
+// of 999.5 or more prints as ".1000".
 int FormatDateValue(double date, std::int32_t formatId, std::string& text);
 
 // FormatDateValue's text alone.

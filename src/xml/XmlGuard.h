@@ -1,7 +1,9 @@
 #pragma once
-// The guard at the door of XmlLoadString: one portable pre-scan of the text, so that both DOM
-// backends refuse the same texts. MSXML under Wine ignores ProhibitDTD and pugixml would keep
-// unknown entities as text, so neither parser is trusted with these checks.
+// The guard at the door of XmlLoadString: one portable scan of the text, so that both DOM
+// backends refuse the same texts. MSXML under Wine ignores ProhibitDTD, and pugixml is lax (it
+// takes a bare '&', references to control characters, a malformed XML declaration, '<' in an
+// attribute value, "--" in a comment ...), so neither parser is trusted with these checks: the
+// guard holds every text to the XML 1.0 grammar of a document without a DTD.
 
 #include <string_view>
 
@@ -16,12 +18,16 @@ enum class XmlTextVerdict {
   MarkupDeclaration,  // <!DOCTYPE, <!ENTITY, ...: anything after "<!" but a comment or CDATA
   TooDeep,            // elements nested deeper than kXmlMaxDepth
   BadCharacter,       // NUL or another control character XML does not allow
-  BadReference,       // "&name;" other than the five predefined, or a character reference to no character
-  Unterminated,       // a comment, CDATA section, processing instruction or tag that never ends
+  BadReference,       // '&' that starts no reference, "&name;" other than the five predefined, or a
+                      // character reference to no XML character
+  Unterminated,       // a comment, CDATA section, processing instruction, tag or element that never ends
+  Malformed,          // anything else the grammar refuses: the declaration's form and place, names,
+                      // attribute syntax and repeats, end tags that match no start tag, "--" in a
+                      // comment, "]]>" in text, content outside the one root element
 };
 
-// Comments, CDATA sections, processing instructions and quoted attribute values are skipped as
-// the XML grammar has them. Everything else (well-formedness) is left to the parser.
+// Names are checked by the XML rules for ASCII; every byte from 0x80 up counts as a name
+// character, whatever the encoding makes of it.
 XmlTextVerdict ScreenXmlText(std::string_view text);
 
 }  // namespace orv

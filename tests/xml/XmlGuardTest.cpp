@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 #include "xml/XmlGuard.h"
@@ -32,7 +33,7 @@ TEST(XmlGuard, SkipsCommentsCdataPisAndQuotedValues) {
   EXPECT_EQ(ScreenXmlText("<!-- <!DOCTYPE a> <b> --><a/>"), XmlTextVerdict::Acceptable);
   EXPECT_EQ(ScreenXmlText("<a><![CDATA[<!DOCTYPE x><b><b>&bogus;]]></a>"), XmlTextVerdict::Acceptable);
   EXPECT_EQ(ScreenXmlText("<?pi <!DOCTYPE x> <b> ?><a/>"), XmlTextVerdict::Acceptable);
-  EXPECT_EQ(ScreenXmlText("<a b=\"<!DOCTYPE x> > '\" c='\"/>'/>"), XmlTextVerdict::Acceptable);
+  EXPECT_EQ(ScreenXmlText("<a b=\"&lt;!DOCTYPE x> > '\" c='\"/>'/>"), XmlTextVerdict::Acceptable);
   EXPECT_EQ(ScreenXmlText("<a b=\"/\"></a>"), XmlTextVerdict::Acceptable);
   // A '>' inside a quoted value does not end the tag: the depth is counted right.
   EXPECT_EQ(ScreenXmlText(Nested(255, "<a b='>'>x</a>")), XmlTextVerdict::Acceptable);
@@ -46,8 +47,8 @@ TEST(XmlGuard, DepthBoundaryIs256) {
   EXPECT_EQ(ScreenXmlText(Nested(256, "<b/>")), XmlTextVerdict::Acceptable);
   EXPECT_EQ(ScreenXmlText(Nested(255, "<b></b><b></b><b></b>")), XmlTextVerdict::Acceptable);
   EXPECT_EQ(ScreenXmlText(Nested(256, "<b></b>")), XmlTextVerdict::TooDeep);
-  // Stray end tags do not buy depth.
-  EXPECT_EQ(ScreenXmlText("</x></x></x>" + Nested(257)), XmlTextVerdict::TooDeep);
+  // The depth is counted where the scan stands, before the rest of the text is seen.
+  EXPECT_EQ(ScreenXmlText(Nested(257) + "</x>"), XmlTextVerdict::TooDeep);
 }
 
 TEST(XmlGuard, ChecksReferencesInTextAndValues) {
@@ -76,5 +77,84 @@ TEST(XmlGuard, RefusesControlCharactersAndUnterminatedConstructs) {
   EXPECT_EQ(ScreenXmlText("<a b='>"), XmlTextVerdict::Unterminated);
   EXPECT_EQ(ScreenXmlText("<a></a"), XmlTextVerdict::Unterminated);
 }
+
+struct VerdictCase {
+  const char* text;
+  XmlTextVerdict verdict;
+};
+
+void PrintTo(const VerdictCase& c, std::ostream* os) { *os << '"' << c.text << '"'; }
+
+class GrammarVerdict : public testing::TestWithParam<VerdictCase> {};
+
+TEST_P(GrammarVerdict, NamesTheFirstFault) { EXPECT_EQ(ScreenXmlText(GetParam().text), GetParam().verdict); }
+
+// Each refusal is named for the first fault in the text, however much follows it.
+INSTANTIATE_TEST_SUITE_P(
+    Grammar, GrammarVerdict,
+    testing::Values(
+        // a declaration hides nothing: it is read by its own grammar, not skipped to "?>"
+        VerdictCase{"<?xml ven=\"1.ore0\"/>\n<!-- c --><a x=\"&lt?;&#30;\">&0\"?>b/>more</a>", XmlTextVerdict::Malformed},
+        VerdictCase{"<?xml version=\"1.0\"?>\n<!-- c --><a x=\"&lt?;\"/>", XmlTextVerdict::BadReference},
+        VerdictCase{"<?xml version=\"1.0\"?><a x=\"&#30;\"/>", XmlTextVerdict::BadReference},
+        VerdictCase{"<?xml version=\"1.0\"?><a>&0</a>", XmlTextVerdict::BadReference},
+        VerdictCase{"<?xml version=\"1.0\" encoding=\"utf-8\" standalone=\"no\"?><a/>", XmlTextVerdict::Acceptable},
+        VerdictCase{"<?xml version='1.7' ?><a/>", XmlTextVerdict::Acceptable},
+        VerdictCase{"<?xml version=\"1.0\"", XmlTextVerdict::Unterminated},
+        VerdictCase{"<?xml version=\"1.0?><a/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<?xml version=\"1.0\" standalone=\"yes\" encoding=\"UTF-8\"?><a/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<?xml version=\"1.\"?><a/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<?xml version=\"1.0\" encoding=\"latin1\"?><a/>", XmlTextVerdict::Malformed},
+        VerdictCase{" <?xml version=\"1.0\"?><a/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a/><?XmL x?>", XmlTextVerdict::Malformed},
+        VerdictCase{"<?xml-stylesheet x?><?xmlfoo?><a/>", XmlTextVerdict::Acceptable},
+        // comments, text, tags
+        VerdictCase{"<a><!-- x -- y --></a>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a><!-- x ---></a>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a><!-- x --", XmlTextVerdict::Unterminated},
+        VerdictCase{"<a>]]></a>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a x=']]>' y=\"'\">]]&gt;]></a>", XmlTextVerdict::Acceptable},
+        VerdictCase{"<a x='<'/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a x='1'y='2'/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a x='1' x='2'/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a x/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a x=", XmlTextVerdict::Unterminated},
+        VerdictCase{"<a></b>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a></a></a>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a/><b/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<![CDATA[x]]><a/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<!-- only -->", XmlTextVerdict::Malformed},
+        VerdictCase{"<a>", XmlTextVerdict::Unterminated},
+        VerdictCase{"<-a/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a-1._b:c xmlns:a-1._b='u'/>", XmlTextVerdict::Acceptable},
+        VerdictCase{"<a>&#x0000000041;&#0065;</a>", XmlTextVerdict::Acceptable},
+        VerdictCase{"<a>&#X41;</a>", XmlTextVerdict::BadReference},
+        // namespaces
+        VerdictCase{"<b:a/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a b:c='1'/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a:b:c xmlns:a='u'/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a xmlns:b=''/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a xmlns:xml='u'/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a xmlns:b='u'><x xmlns:d='&#117;' b:c='1' d:c='2'/></a>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a xmlns:='u'/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a xmlns:b='u'><x xmlns:b='v' xmlns:d='u' b:c='1' d:c='2'/></a>", XmlTextVerdict::Acceptable},
+        VerdictCase{"<a><x xmlns:b='u'/><b:y/></a>", XmlTextVerdict::Malformed},
+        VerdictCase{"<a xmlns='' xml:lang='en'><x xmlns='u' c='1'/></a>", XmlTextVerdict::Acceptable}));
+
+#ifndef _WIN32
+// Natively the narrow text is UTF-8: it must decode, and names take the XML name characters.
+INSTANTIATE_TEST_SUITE_P(
+    Utf8, GrammarVerdict,
+    testing::Values(VerdictCase{"<\xC3\xA9t\xC3\xA9 a\xC2\xB7='\xE2\x82\xAC'>\xF0\x9F\x98\x80</\xC3\xA9t\xC3\xA9>",
+                                XmlTextVerdict::Acceptable},
+                    VerdictCase{"<a\xC3\x97/>", XmlTextVerdict::Malformed},
+                    VerdictCase{"<a xmlns:b='&#xE9;'><x xmlns:d='\xC3\xA9' b:c='1' d:c='2'/></a>", XmlTextVerdict::Malformed},
+                    VerdictCase{"<\xC2\xB7" "a/>", XmlTextVerdict::Malformed},
+                    VerdictCase{"<a>\xE9</a>", XmlTextVerdict::BadCharacter},
+                    VerdictCase{"<a>\xC0\xBC</a>", XmlTextVerdict::BadCharacter},
+                    VerdictCase{"<a>\xED\xA0\x80</a>", XmlTextVerdict::BadCharacter},
+                    VerdictCase{"<a>\xEF\xBF\xBE</a>", XmlTextVerdict::BadCharacter},
+                    VerdictCase{"\xEF\xBB\xBF<a/>", XmlTextVerdict::Malformed}));
+#endif
 
 }  // namespace
