@@ -19,6 +19,10 @@ class HeadlessDriver final : public SheetDriver {
   void PressApply() override { runner_.Sheet().PressApply(); }
   void PressOk() override { runner_.Sheet().PressOk(); }
   void PressCancel() override { runner_.Sheet().PressCancel(); }
+  bool WizardButtonEnabled(unsigned button) override { return runner_.Sheet().IsWizardButtonEnabled(button); }
+  void PressBack() override { runner_.Sheet().PressBack(); }
+  void PressNext() override { runner_.Sheet().PressNext(); }
+  void PressFinish() override { runner_.Sheet().PressFinish(); }
 
  private:
   orv::HeadlessSheetRunner& runner_;

@@ -26,6 +26,16 @@ PageRole RefusesFirstApply(ApplyResult answer) {
   role.firstApply = answer;
   return role;
 }
+PageRole Offers(unsigned buttons) {
+  PageRole role;
+  role.wizardButtons = buttons;
+  return role;
+}
+PageRole OffersAndRefusesToLeave(unsigned buttons, int times) {
+  PageRole role = Offers(buttons);
+  role.refuseLeave = times;
+  return role;
+}
 PageRole RefusesCancelOnce() {
   PageRole role;
   role.refuseCancel = true;
@@ -39,6 +49,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"CancelAtOnceResetsOnlyTheStartPage",
        {Plain(), Plain(), Plain()},
        0,
+       false,
        {kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "press Cancel", "A querycancel", "A reset",  //
@@ -46,6 +57,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"AnotherStartPageIsTheOnlyOneCreated",
        {Plain(), Plain(), Plain()},
        1,
+       false,
        {kCancel},
        {"sheet initialized", "B init", "B set",  //
         "now B", "press Cancel", "B querycancel", "B reset",  //
@@ -53,6 +65,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"TabChangesCreateEachPageOnceAndLeaveItAlive",
        {Plain(), Plain(), Plain()},
        0,
+       false,
        {Click(2), Click(0), Click(1), Click(2), kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "click C", "A kill", "C init", "C set",  //
@@ -64,6 +77,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"ApplyReachesEveryCreatedPageInTabOrderAndOkAgain",
        {Plain(), Plain(), Plain()},
        0,
+       false,
        {kEdit, Click(2), kApply, kOk},
        {"sheet initialized", "A init", "A set",  //
         "now A", "type", "A changed",  //
@@ -75,6 +89,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"ApplyButtonStaysOffWithoutAChange",
        {Plain(), Plain(), Plain()},
        0,
+       false,
        {Click(1), kApply, kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "click B", "A kill", "B init", "B set",  //
@@ -84,6 +99,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"OkLeavesPagesNeverVisitedAlone",
        {Plain(), Plain(), Plain()},
        0,
+       false,
        {kEdit, kOk},
        {"sheet initialized", "A init", "A set",  //
         "now A", "type", "A changed",  //
@@ -92,6 +108,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"CancelAfterApplyResetsAndGivesZero",
        {Plain(), Plain(), Plain()},
        0,
+       false,
        {kEdit, Click(1), kApply, kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "type", "A changed",  //
@@ -103,6 +120,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"APageThatMayNotBeLeftKeepsItsTabAndRefusesOk",
        {Plain(), RefusesToLeave(2), Plain()},
        0,
+       false,
        {kEdit, Click(1), Click(2), kOk, kOk},
        {"sheet initialized", "A init", "A set",  //
         "now A", "type", "A changed",  //
@@ -114,6 +132,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"ARefusedApplyShowsTheRefusingPage",
        {RefusesFirstApply(ApplyResult::Invalid), Plain(), Plain()},
        0,
+       false,
        {kEdit, Click(2), kApply, kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "type", "A changed",  //
@@ -124,6 +143,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"ARefusedApplyThatKeepsThePageStaysPut",
        {RefusesFirstApply(ApplyResult::InvalidNoChangePage), Plain(), Plain()},
        0,
+       false,
        {kEdit, Click(2), kApply, kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "type", "A changed",  //
@@ -134,6 +154,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"APageRefusingToShowIsPassedOverForwards",
        {Plain(), RefusesToShow(), Plain()},
        0,
+       false,
        {Click(1), Click(1), kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "click B", "A kill", "B init", "B set", "C init", "C set",  //
@@ -143,6 +164,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"ALastPageRefusingToShowIsShownAllTheSame",
        {Plain(), Plain(), RefusesToShow()},
        0,
+       false,
        {Click(2), kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "click C", "A kill", "C init", "C set",  //
@@ -151,6 +173,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"ARefusedCancelKeepsTheSheetUp",
        {RefusesCancelOnce(), Plain(), Plain()},
        0,
+       false,
        {kCancel, kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "press Cancel", "A querycancel",  //
@@ -159,6 +182,7 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"AChangeTheStartPageMakesWhileItStartsLeavesApplyOff",
        {Changed(), Plain(), Plain()},
        0,
+       false,
        {Click(1), kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "click B", "A kill", "B init", "B set",  //
@@ -167,11 +191,46 @@ const std::vector<SequenceCase>& SequenceCases() {
       {"AChangeALaterPageMakesWhileItStartsTurnsApplyOn",
        {Plain(), Changed(), Plain()},
        0,
+       false,
        {Click(1), kApply, kCancel},
        {"sheet initialized", "A init", "A set",  //
         "now A", "click B", "A kill", "B init", "B set",  //
         "now B, Apply on", "press Apply", "B kill", "A apply", "sheet apply A", "B apply", "sheet apply B", "B set",  //
         "now B", "press Cancel", "B querycancel", "A reset", "B reset",  //
+        "result 0"}},
+      {"WizardGoesNextNextAndFinishes",
+       {Offers(kWizNext), Offers(kWizBack | kWizNext), Offers(kWizBack | kWizFinish)},
+       0,
+       true,
+       {kNext, kNext, kFinish},
+       {"sheet initialized", "A init", "A set",  //
+        "now A, Next", "press Next", "A next", "A kill", "B init", "B set",  //
+        "now B, Back, Next", "press Next", "B next", "B kill", "C init", "C set",  //
+        "now C, Back, Finish", "press Finish", "C finish",  //
+        "result 1"}},
+      {"WizardPageThatMayNotBeLeftKeepsNextAndBackGoesBack",
+       {Offers(kWizNext), OffersAndRefusesToLeave(kWizBack | kWizNext, 1), Offers(kWizBack | kWizFinish)},
+       0,
+       true,
+       {kNext, kNext, kBack, kNext, kCancel},
+       {"sheet initialized", "A init", "A set",  //
+        "now A, Next", "press Next", "A next", "A kill", "B init", "B set",  //
+        "now B, Back, Next", "press Next", "B next", "B kill",  //
+        "now B, Back, Next", "press Back", "B back", "B kill", "A set",  //
+        "now A, Next", "press Next", "A next", "A kill", "B set",  //
+        "now B, Back, Next", "press Cancel", "B querycancel", "A reset", "B reset",  //
+        "result 0"}},
+      {"WizardOffersBackAndNextUntilAPageSaysOtherwise",
+       {Plain(), Plain(), Plain()},
+       0,
+       true,
+       {kFinish, kNext, kNext, kNext, kCancel},
+       {"sheet initialized", "A init", "A set",  //
+        "now A, Back, Next", "press Finish",  //
+        "now A, Back, Next", "press Next", "A next", "A kill", "B init", "B set",  //
+        "now B, Back, Next", "press Next", "B next", "B kill", "C init", "C set",  //
+        "now C, Back, Next", "press Next", "C next",  //
+        "now C, Back, Next", "press Cancel", "C querycancel", "A reset", "B reset", "C reset",  //
         "result 0"}},
   };
   return cases;

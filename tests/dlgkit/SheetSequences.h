@@ -1,15 +1,17 @@
 #pragma once
-// What the pages of a property sheet hear, and in which order, while a user clicks tabs and
-// presses Apply, OK and Cancel. One table of sessions, written once, runs on the headless sheet
-// (SheetSequenceTest.cpp, every build) and on the platform's PropertySheet
+// What the pages of a property sheet or wizard hear, and in which order, while a user clicks
+// tabs, types and presses the buttons. One table of sessions, written once, runs on the headless
+// sheet (SheetSequenceTest.cpp, every build) and on the platform's PropertySheet
 // (win32/SheetSequenceWin32Test.cpp, under Wine): the platform's sheet is the reference the
 // headless one keeps to.
 //
 // The log holds what the pages hear ("B init", "B set", "B kill", "B apply", "B reset",
-// "B querycancel", "B changed": the user typed into it), what the sheet hears ("sheet initialized", "sheet apply B": message 1425),
-// and the user's side: before each step, the page on top and the Apply button ("now B, Apply on"),
-// then the step ("click C", "type", "press Apply", "press OK", "press Cancel"); last, "result N", the
-// sheet's result.
+// "B querycancel", "B back", "B next", "B finish", "B help", "B notify <code>", and "B changed"
+// when the user typed into it), what the sheet hears ("sheet initialized", "sheet apply B":
+// message 1425), and the user's side: before each step, the page on top and the live buttons
+// among Apply, Back, Next and Finish ("now B, Apply on"), then the step ("click C", "type",
+// "press Apply", "press OK", "press Cancel", "press Next" ...); last, "result N", the sheet's
+// result.
 
 #include <cstdint>
 #include <memory>
@@ -33,6 +35,7 @@ struct PageRole {
   bool refuseShow = false;     // refuses every activation
   ApplyResult firstApply = ApplyResult::NoError;  // its answer to the first apply; later ones accept
   bool refuseCancel = false;   // refuses the first query cancel
+  unsigned wizardButtons = 0;  // a wizard page: the buttons it offers when activated (0: leaves them)
 };
 
 inline std::string PageName(int index) { return std::string(1, static_cast<char>('A' + index)); }
@@ -53,6 +56,7 @@ class RecordingPage final : public Page {
   }
   bool OnSetActive() override {
     Note("set");
+    if (role_.wizardButtons) controls_->SetWizardButtons(role_.wizardButtons);
     return !role_.refuseShow;
   }
   bool OnKillActive() override {
@@ -78,6 +82,26 @@ class RecordingPage final : public Page {
     Note("querycancel");
     return !std::exchange(role_.refuseCancel, false);
   }
+  int OnWizardBack() override {
+    Note("back");
+    return kWizardDefault;
+  }
+  int OnWizardNext() override {
+    Note("next");
+    return kWizardDefault;
+  }
+  bool OnWizardFinish() override {
+    Note("finish");
+    return true;
+  }
+  bool OnHelp() override {
+    Note("help");
+    return false;
+  }
+  bool OnNotify(int, int code, const void*, std::intptr_t&) override {
+    log_.push_back(name_ + " notify " + std::to_string(code));
+    return false;
+  }
 
  private:
   void Note(const char* what) { log_.push_back(name_ + " " + what); }
@@ -88,7 +112,7 @@ class RecordingPage final : public Page {
   Controls* controls_ = nullptr;
 };
 
-enum class Action { ClickTab, Edit, Apply, Ok, Cancel };
+enum class Action { ClickTab, Edit, Apply, Ok, Cancel, Back, Next, Finish };
 struct Step {
   Action action;
   int tab = -1;  // for ClickTab
@@ -98,11 +122,15 @@ inline constexpr Step kEdit{Action::Edit};  // types into the page on top
 inline constexpr Step kApply{Action::Apply};
 inline constexpr Step kOk{Action::Ok};
 inline constexpr Step kCancel{Action::Cancel};
+inline constexpr Step kBack{Action::Back};  // a wizard's buttons
+inline constexpr Step kNext{Action::Next};
+inline constexpr Step kFinish{Action::Finish};
 
 struct SequenceCase {
   const char* name;
   std::vector<PageRole> pages;  // A, B, C ... in tab order
   int startPage;
+  bool wizard;                  // Back / Next / Finish instead of tabs, OK and Apply
   std::vector<Step> steps;      // the last one closes the sheet
   Log expected;                 // ends with "result N", N being PropertySheet's result
 };
@@ -113,15 +141,25 @@ class SheetDriver {
   virtual ~SheetDriver() = default;
   virtual int CurrentTab() = 0;
   virtual bool ApplyEnabled() = 0;
+  virtual bool WizardButtonEnabled(unsigned button) = 0;  // kWizBack, kWizNext, kWizFinish
   virtual void ClickTab(int index) = 0;
   virtual void TypeIntoCurrentPage() = 0;  // into its edit field
   virtual void PressApply() = 0;  // only a live Apply button can be pressed
   virtual void PressOk() = 0;
   virtual void PressCancel() = 0;
+  // A wizard's buttons; only a live button can be pressed.
+  virtual void PressBack() = 0;
+  virtual void PressNext() = 0;
+  virtual void PressFinish() = 0;
 };
 
 inline void PlayStep(const Step& step, SheetDriver& driver, Log& log) {
-  log.push_back("now " + PageName(driver.CurrentTab()) + (driver.ApplyEnabled() ? ", Apply on" : ""));
+  std::string now = "now " + PageName(driver.CurrentTab());
+  if (driver.ApplyEnabled()) now += ", Apply on";
+  if (driver.WizardButtonEnabled(kWizBack)) now += ", Back";
+  if (driver.WizardButtonEnabled(kWizNext)) now += ", Next";
+  if (driver.WizardButtonEnabled(kWizFinish)) now += ", Finish";
+  log.push_back(now);
   switch (step.action) {
     case Action::ClickTab:
       log.push_back("click " + PageName(step.tab));
@@ -143,6 +181,18 @@ inline void PlayStep(const Step& step, SheetDriver& driver, Log& log) {
       log.push_back("press Cancel");
       driver.PressCancel();
       break;
+    case Action::Back:
+      log.push_back("press Back");
+      driver.PressBack();
+      break;
+    case Action::Next:
+      log.push_back("press Next");
+      driver.PressNext();
+      break;
+    case Action::Finish:
+      log.push_back("press Finish");
+      driver.PressFinish();
+      break;
   }
 }
 
@@ -155,6 +205,7 @@ struct Session {
     }
     setup.title = "Sequence";
     setup.startPage = c.startPage;
+    setup.wizard = c.wizard;
     setup.onInitialized = [this](WindowHandle, WindowOps&) { log.push_back("sheet initialized"); };
     setup.onPageApply = [this](int dialogId) {
       log.push_back("sheet apply " + PageName(dialogId - IDD_SEQ_PAGE_A));

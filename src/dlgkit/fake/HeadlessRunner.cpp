@@ -145,10 +145,10 @@ bool HeadlessRunner::PressCancel() {
   });
 }
 
-bool HeadlessRunner::WizardButtonEnabled(unsigned button) const {
-  if (current_ < 0) return false;
+bool HeadlessRunner::IsWizardButtonEnabled(unsigned button) const {
+  if (mode_ != Mode::Wizard || current_ < 0) return false;
   const auto buttons = pages_[static_cast<std::size_t>(current_)].controls->WizardButtons();
-  return !buttons || (*buttons & button) != 0;
+  return (buttons.value_or(kWizBack | kWizNext) & button) != 0;
 }
 
 int HeadlessRunner::IndexOfDialogId(int dialogId) const {
@@ -161,7 +161,7 @@ int HeadlessRunner::IndexOfDialogId(int dialogId) const {
 bool HeadlessRunner::PressNext() {
   RequireRunning("Next");
   if (mode_ != Mode::Wizard) throw std::logic_error("HeadlessRunner: Next needs a wizard");
-  if (!WizardButtonEnabled(kWizNext)) return false;
+  if (!IsWizardButtonEnabled(kWizNext)) return false;
   return Guard([&] {
     const int answer = pages_[static_cast<std::size_t>(current_)].page->OnWizardNext();
     if (answer == kWizardStay) return false;
@@ -173,7 +173,7 @@ bool HeadlessRunner::PressNext() {
 bool HeadlessRunner::PressBack() {
   RequireRunning("Back");
   if (mode_ != Mode::Wizard) throw std::logic_error("HeadlessRunner: Back needs a wizard");
-  if (!WizardButtonEnabled(kWizBack)) return false;
+  if (!IsWizardButtonEnabled(kWizBack)) return false;
   return Guard([&] {
     const int answer = pages_[static_cast<std::size_t>(current_)].page->OnWizardBack();
     if (answer == kWizardStay) return false;
@@ -185,7 +185,7 @@ bool HeadlessRunner::PressBack() {
 bool HeadlessRunner::PressFinish() {
   RequireRunning("Finish");
   if (mode_ != Mode::Wizard) throw std::logic_error("HeadlessRunner: Finish needs a wizard");
-  if (!WizardButtonEnabled(kWizFinish)) return false;
+  if (!IsWizardButtonEnabled(kWizFinish)) return false;
   return Guard([&] {
     if (!pages_[static_cast<std::size_t>(current_)].page->OnWizardFinish()) return false;
     End(1);

@@ -25,8 +25,9 @@
 //   the run ends.
 // - Wizard: Next / Back ask the current page (kWizardStay stays, kWizardDefault goes to the
 //   neighbour, a dialog id jumps to that page), then change page as above, passing refusing
-//   pages over in the direction of travel. Finish asks OnWizardFinish and ends the run. When
-//   the current page has set the wizard buttons, a button it didn't enable does nothing.
+//   pages over in the direction of travel. Finish asks OnWizardFinish and ends the run. Back
+//   and Next are live until the current page sets the wizard buttons; then a button it didn't
+//   enable does nothing.
 // - The result, as PropertySheet's: 1 when OK or Finish closed the sheet, 0 when Cancel did
 //   (also after an Apply), -1 when a page threw: the run ends and the exception reaches the test.
 
@@ -67,6 +68,9 @@ class HeadlessRunner {
   int CurrentPage() const { return current_; }
   bool IsCreated(int index) const;
   bool IsApplyEnabled() const;
+  // A wizard's button (kWizBack, kWizNext, kWizFinish) is live: as the current page last set
+  // them, else Back and Next, as the platform's wizard starts. A sheet has none.
+  bool IsWizardButtonEnabled(unsigned button) const;
   int PageCount() const { return static_cast<int>(pages_.size()); }
 
  private:
@@ -84,7 +88,6 @@ class HeadlessRunner {
   void Activate(int index, int direction);
   bool ChangePage(int target, int direction);
   bool Apply(bool closing);
-  bool WizardButtonEnabled(unsigned button) const;
   int IndexOfDialogId(int dialogId) const;
   void End(int result);
 

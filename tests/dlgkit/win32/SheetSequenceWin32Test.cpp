@@ -17,7 +17,11 @@ namespace {
 
 using namespace orv::seqtest;
 
-constexpr int kApplyButtonId = 0x3021;  // the sheet's Apply button
+// The sheet's own buttons.
+constexpr int kApplyButtonId = 0x3021;
+constexpr int kBackButtonId = 0x3023;
+constexpr int kNextButtonId = 0x3024;
+constexpr int kFinishButtonId = 0x3025;
 
 class Win32Driver final : public SheetDriver {
  public:
@@ -26,10 +30,7 @@ class Win32Driver final : public SheetDriver {
     const LRESULT page = ::SendMessageA(sheet_, PSM_GETCURRENTPAGEHWND, 0, 0);
     return static_cast<int>(::SendMessageA(sheet_, PSM_HWNDTOINDEX, static_cast<WPARAM>(page), 0));
   }
-  bool ApplyEnabled() override {
-    HWND apply = ::GetDlgItem(sheet_, kApplyButtonId);
-    return apply && ::IsWindowVisible(apply) && ::IsWindowEnabled(apply);
-  }
+  bool ApplyEnabled() override { return Live(kApplyButtonId); }
   // A click in the middle of the tab, as the mouse would give it.
   void ClickTab(int index) override {
     HWND tabs = reinterpret_cast<HWND>(::SendMessageA(sheet_, PSM_GETTABCONTROL, 0, 0));
@@ -48,8 +49,23 @@ class Win32Driver final : public SheetDriver {
   }
   void PressOk() override { ::SendMessageA(sheet_, PSM_PRESSBUTTON, PSBTN_OK, 0); }
   void PressCancel() override { ::SendMessageA(sheet_, PSM_PRESSBUTTON, PSBTN_CANCEL, 0); }
+  bool WizardButtonEnabled(unsigned button) override { return Live(WizardButtonId(button)); }
+  void PressBack() override { PressIfLive(orv::kWizBack, PSBTN_BACK); }
+  void PressNext() override { PressIfLive(orv::kWizNext, PSBTN_NEXT); }
+  void PressFinish() override { PressIfLive(orv::kWizFinish, PSBTN_FINISH); }
 
  private:
+  static int WizardButtonId(unsigned button) {
+    return button == orv::kWizBack ? kBackButtonId : button == orv::kWizNext ? kNextButtonId : kFinishButtonId;
+  }
+  // Shown and enabled: a button the user can press.
+  bool Live(int id) const {
+    HWND button = ::GetDlgItem(sheet_, id);
+    return button && ::IsWindowVisible(button) && ::IsWindowEnabled(button);
+  }
+  void PressIfLive(unsigned button, int which) {
+    if (Live(WizardButtonId(button))) ::SendMessageA(sheet_, PSM_PRESSBUTTON, static_cast<WPARAM>(which), 0);
+  }
   HWND sheet_;
 };
 
@@ -83,7 +99,9 @@ TEST_P(SheetSequenceWin32, PagesHearWhatTheTableSays) {
   session.setup.onInitialized = [&](orv::WindowHandle window, orv::WindowOps& ops) {
     logInitialized(window, ops);
     sheet = static_cast<HWND>(window);
-    work.Post(play);
+    // The start page is activated after this hook, and what it posts (its wizard buttons) comes
+    // before the first step: that step is posted from a message posted now.
+    work.Post([&] { work.Post(play); });
   };
   orv::SheetRunnerWin32 runner;
   const std::intptr_t result = runner.Run(session.setup);
