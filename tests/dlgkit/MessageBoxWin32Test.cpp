@@ -10,6 +10,7 @@
 #include <string>
 
 #include "WindowCapture.h"
+#include "win32/PostedWork.h"
 #include "dlgkit/MessageBox.h"
 
 namespace {
@@ -224,5 +225,68 @@ TEST_F(MessageBoxWin32, AnInvisibleOwnerCountsAsNone) {
   EXPECT_TRUE(IsWindowEnabled(hidden));
   DestroyWindow(hidden);
 }
+
+// Enter, as the keyboard gives it to the focused control and the dialog manager reads it,
+// answers with the button the flags name as default, whichever its place, and that button has
+// the focus from the start.
+struct EnterCase {
+  const char* name;
+  unsigned flags;
+  int answer;  // the default button's id
+  bool owned;  // shown over a visible owner window
+};
+
+class MessageBoxEnter : public ::testing::TestWithParam<EnterCase> {
+ protected:
+  void SetUp() override { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
+  void TearDown() override { CoUninitialize(); }
+};
+
+TEST_P(MessageBoxEnter, AnswersWithTheDefaultButton) {
+  const EnterCase& c = GetParam();
+  HWND owner = nullptr;
+  if (c.owned) {
+    owner = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 10, 10, 400, 300, nullptr,
+                            nullptr, nullptr, nullptr);
+    ASSERT_NE(owner, nullptr);
+  }
+  int focused = -1;
+  bool defaultStyle = false;
+  orv::test::PostedWork work;
+  // Posted before the box exists: it runs from the box's own loop once the box is up.
+  work.Post([&] {
+    HWND focus = GetFocus();
+    HWND box = focus ? GetParent(focus) : nullptr;
+    ASSERT_NE(box, nullptr) << "a control of the box has the focus";
+    ASSERT_NE(GetDlgItem(box, 101), nullptr) << "the focus is in the box";
+    focused = GetDlgCtrlID(focus);
+    defaultStyle = (GetWindowLongW(GetDlgItem(box, c.answer), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON;
+    PostMessageW(focus, WM_KEYDOWN, VK_RETURN, MAKELPARAM(1, MapVirtualKeyW(VK_RETURN, 0)));
+  });
+  const int answer = OrvMessageBox(owner, "Replace the study?", "Box", c.flags);
+  if (owner) DestroyWindow(owner);
+  EXPECT_EQ(work.Pending(), 0u) << "the box was never up";
+  EXPECT_EQ(focused, c.answer);
+  EXPECT_TRUE(defaultStyle);
+  EXPECT_EQ(answer, c.answer);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    DefaultButtons, MessageBoxEnter,
+    ::testing::Values(EnterCase{"OkAlone", MB_OK, IDOK, false},
+                      EnterCase{"OkCancelFirst", MB_OKCANCEL, IDOK, false},
+                      EnterCase{"OkCancelSecond", MB_OKCANCEL | MB_DEFBUTTON2, IDCANCEL, false},
+                      EnterCase{"YesNoFirst", MB_YESNO, IDYES, false},
+                      EnterCase{"YesNoSecond", MB_YESNO | MB_DEFBUTTON2, IDNO, false},
+                      EnterCase{"YesNoSecondOwned", MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2, IDNO, true},
+                      EnterCase{"YesNoCancelFirst", MB_YESNOCANCEL, IDYES, false},
+                      EnterCase{"YesNoCancelSecond", MB_YESNOCANCEL | MB_DEFBUTTON2, IDNO, false},
+                      EnterCase{"YesNoCancelThird", MB_YESNOCANCEL | MB_DEFBUTTON3, IDCANCEL, false},
+                      EnterCase{"YesNoCancelThirdOwned", MB_YESNOCANCEL | MB_DEFBUTTON3, IDCANCEL, true},
+                      EnterCase{"AbortRetryIgnoreSecond", MB_ABORTRETRYIGNORE | MB_DEFBUTTON2, IDRETRY, false},
+                      EnterCase{"AbortRetryIgnoreThird", MB_ABORTRETRYIGNORE | MB_DEFBUTTON3, IDIGNORE, false},
+                      EnterCase{"RetryCancelSecond", MB_RETRYCANCEL | MB_DEFBUTTON2, IDCANCEL, false},
+                      EnterCase{"CancelTryContinueThird", MB_CANCELTRYCONTINUE | MB_DEFBUTTON3, IDCONTINUE, false}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace

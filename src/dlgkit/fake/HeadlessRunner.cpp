@@ -34,13 +34,18 @@ void HeadlessRunner::RequireRunning(const char* action) const {
 void HeadlessRunner::Start(int startPage) {
   if (running_) throw std::logic_error("HeadlessRunner: started twice");
   running_ = true;
-  applied_ = false;
   result_ = 0;
   current_ = -1;
   for (Entry& entry : pages_) entry.controls->AttachPage(entry.page);
   if (pages_.empty()) return;
   if (startPage < 0 || startPage >= PageCount()) startPage = 0;
-  Guard([&] { return Activate(startPage, +1); });
+  Guard([&] {
+    Activate(startPage, +1);
+    return true;
+  });
+  // The sheet ends its own start by counting no page as changed: a change a page announced
+  // while it was being created doesn't turn Apply on.
+  for (Entry& entry : pages_) entry.controls->ClearSheetChanged();
 }
 
 bool HeadlessRunner::IsCreated(int index) const {
@@ -61,31 +66,31 @@ void HeadlessRunner::EnsureCreated(int index) {
   entry.page->OnInitDialog(*entry.controls, entry.window, windowOps_);
 }
 
-bool HeadlessRunner::Activate(int index, int direction) {
-  for (; index >= 0 && index < PageCount(); index += direction) {
+void HeadlessRunner::Activate(int index, int direction) {
+  for (;;) {
     EnsureCreated(index);
-    if (pages_[static_cast<std::size_t>(index)].page->OnSetActive()) {
-      current_ = index;
-      return true;
-    }
-    if (direction == 0) break;
+    if (pages_[static_cast<std::size_t>(index)].page->OnSetActive()) break;
+    // Refused: the next page in the direction of travel is asked. Past either end the sheet
+    // stops at the end page and shows it, though it refused.
+    if (index + direction < 0 || index + direction >= PageCount()) break;
+    index += direction;
   }
-  return false;
+  current_ = index;
 }
 
 bool HeadlessRunner::ChangePage(int target, int direction) {
   if (target < 0 || target >= PageCount() || target == current_) return false;
   if (current_ >= 0 && !pages_[static_cast<std::size_t>(current_)].page->OnKillActive()) return false;
-  if (Activate(target, direction)) return true;
-  // Nobody in that direction would be shown: the page that was left comes back.
-  if (current_ >= 0) pages_[static_cast<std::size_t>(current_)].page->OnSetActive();
-  return false;
+  const int left = current_;
+  Activate(target, direction);
+  return current_ != left;
 }
 
 bool HeadlessRunner::SelectPage(int index) {
   RequireRunning("SelectPage");
   if (mode_ == Mode::Wizard) throw std::logic_error("HeadlessRunner: a wizard has no tabs");
-  return Guard([&] { return ChangePage(index, index < current_ ? -1 : +1); });
+  // A tab click passes refusing pages over forwards, whichever side the tab is on.
+  return Guard([&] { return ChangePage(index, +1); });
 }
 
 bool HeadlessRunner::Apply(bool closing) {
@@ -97,18 +102,14 @@ bool HeadlessRunner::Apply(bool closing) {
       case ApplyResult::NoError:
         continue;
       case ApplyResult::Invalid:
-        if (i != current_) {
-          if (Activate(i, 0)) return false;
-        }
-        // The page that was left by OnKillActive is shown again.
-        if (current_ >= 0) pages_[static_cast<std::size_t>(current_)].page->OnSetActive();
+        // The refusing page is brought to the top as it is: it hears no activation, and the
+        // page that was on top hears nothing more either.
+        current_ = i;
         return false;
       case ApplyResult::InvalidNoChangePage:
-        if (current_ >= 0) pages_[static_cast<std::size_t>(current_)].page->OnSetActive();
         return false;
     }
   }
-  applied_ = true;
   for (Entry& entry : pages_) entry.controls->ClearSheetChanged();
   if (!closing && current_ >= 0) pages_[static_cast<std::size_t>(current_)].page->OnSetActive();
   return true;
@@ -138,15 +139,16 @@ bool HeadlessRunner::PressCancel() {
     for (Entry& entry : pages_) {
       if (entry.created) entry.page->OnReset();
     }
-    End(applied_ ? 1 : 0);
+    // Cancel gives 0 even after an Apply: what that Apply sent stays sent all the same.
+    End(0);
     return true;
   });
 }
 
-bool HeadlessRunner::WizardButtonEnabled(unsigned button) const {
-  if (current_ < 0) return false;
+bool HeadlessRunner::IsWizardButtonEnabled(unsigned button) const {
+  if (mode_ != Mode::Wizard || current_ < 0) return false;
   const auto buttons = pages_[static_cast<std::size_t>(current_)].controls->WizardButtons();
-  return !buttons || (*buttons & button) != 0;
+  return (buttons.value_or(kWizBack | kWizNext) & button) != 0;
 }
 
 int HeadlessRunner::IndexOfDialogId(int dialogId) const {
@@ -159,7 +161,7 @@ int HeadlessRunner::IndexOfDialogId(int dialogId) const {
 bool HeadlessRunner::PressNext() {
   RequireRunning("Next");
   if (mode_ != Mode::Wizard) throw std::logic_error("HeadlessRunner: Next needs a wizard");
-  if (!WizardButtonEnabled(kWizNext)) return false;
+  if (!IsWizardButtonEnabled(kWizNext)) return false;
   return Guard([&] {
     const int answer = pages_[static_cast<std::size_t>(current_)].page->OnWizardNext();
     if (answer == kWizardStay) return false;
@@ -171,7 +173,7 @@ bool HeadlessRunner::PressNext() {
 bool HeadlessRunner::PressBack() {
   RequireRunning("Back");
   if (mode_ != Mode::Wizard) throw std::logic_error("HeadlessRunner: Back needs a wizard");
-  if (!WizardButtonEnabled(kWizBack)) return false;
+  if (!IsWizardButtonEnabled(kWizBack)) return false;
   return Guard([&] {
     const int answer = pages_[static_cast<std::size_t>(current_)].page->OnWizardBack();
     if (answer == kWizardStay) return false;
@@ -183,7 +185,7 @@ bool HeadlessRunner::PressBack() {
 bool HeadlessRunner::PressFinish() {
   RequireRunning("Finish");
   if (mode_ != Mode::Wizard) throw std::logic_error("HeadlessRunner: Finish needs a wizard");
-  if (!WizardButtonEnabled(kWizFinish)) return false;
+  if (!IsWizardButtonEnabled(kWizFinish)) return false;
   return Guard([&] {
     if (!pages_[static_cast<std::size_t>(current_)].page->OnWizardFinish()) return false;
     End(1);

@@ -3,26 +3,33 @@
 // same operations, in the same order, as the platform's PropertySheet does, so a test can visit
 // a tab, type, click and press Apply, OK, Cancel, Back, Next or Finish.
 //
-// The order it keeps (that of the platform's sheet):
+// The order it keeps (that of the platform's sheet, as measured against it with the same
+// pages and the same user steps):
 // - A page is created (OnInitDialog) the first time it is shown, never again.
-// - Start: the start page is created and activated. A page whose OnSetActive refuses is passed
-//   over in the direction of travel (forwards at start).
+// - Start: the sheet's own init (SheetSetup::onInitialized) comes first, then the start page is
+//   created and activated. A page whose OnSetActive refuses is passed over forwards. Then the
+//   sheet counts no page as changed: a SheetChanged() made while a page was created at start
+//   leaves Apply off.
 // - Changing page: OnKillActive on the current page (a refusal keeps it), then create-if-needed
-//   and OnSetActive on the new one. If no page in that direction accepts, the old page is
-//   activated again.
+//   and OnSetActive on the new one. A refusing page is passed over in the direction of travel:
+//   forwards for a tab click, whichever side the tab is on; past either end the sheet stops at
+//   the end page and shows it, though it refused.
 // - Apply: OnKillActive on the current page, then OnApply on every created page in sheet order,
-//   stopping at the first refusal (ApplyResult::Invalid shows the refusing page,
-//   InvalidNoChangePage stays). After a successful Apply the sheet's changed marks are cleared
-//   and the current page gets OnSetActive again. The Apply button is only live after a page
-//   said SheetChanged(); pressing it otherwise does nothing.
-// - OK: Apply as above, then the run ends. Cancel: OnQueryCancel on the current page (a refusal
-//   keeps the sheet open), then OnReset on every created page, and the run ends.
+//   stopping at the first refusal: ApplyResult::Invalid brings the refusing page to the top
+//   without an OnSetActive, InvalidNoChangePage stays, and neither page hears anything more.
+//   After a successful Apply the sheet's changed marks are cleared and the current page gets
+//   OnSetActive again. The Apply button is only live after a page said SheetChanged(); pressing
+//   it otherwise does nothing.
+// - OK: Apply as above (no OnSetActive after it), then the run ends. Cancel: OnQueryCancel on
+//   the current page (a refusal keeps the sheet open), then OnReset on every created page, and
+//   the run ends.
 // - Wizard: Next / Back ask the current page (kWizardStay stays, kWizardDefault goes to the
-//   neighbour, a dialog id jumps to that page), then change page as above. Finish asks
-//   OnWizardFinish and ends the run. When the current page has set the wizard buttons, a
-//   button it didn't enable does nothing.
-// - The result, as PropertySheet's: 1 when changes were applied during the run (Apply, OK or
-//   Finish), 0 when not, -1 when a page threw: the run ends and the exception reaches the test.
+//   neighbour, a dialog id jumps to that page), then change page as above, passing refusing
+//   pages over in the direction of travel. Finish asks OnWizardFinish and ends the run. Back
+//   and Next are live until the current page sets the wizard buttons; then a button it didn't
+//   enable does nothing.
+// - The result, as PropertySheet's: 1 when OK or Finish closed the sheet, 0 when Cancel did
+//   (also after an Apply), -1 when a page threw: the run ends and the exception reaches the test.
 
 #include <functional>
 #include <vector>
@@ -61,6 +68,9 @@ class HeadlessRunner {
   int CurrentPage() const { return current_; }
   bool IsCreated(int index) const;
   bool IsApplyEnabled() const;
+  // A wizard's button (kWizBack, kWizNext, kWizFinish) is live: as the current page last set
+  // them, else Back and Next, as the platform's wizard starts. A sheet has none.
+  bool IsWizardButtonEnabled(unsigned button) const;
   int PageCount() const { return static_cast<int>(pages_.size()); }
 
  private:
@@ -75,10 +85,9 @@ class HeadlessRunner {
   auto Guard(F&& f) -> decltype(f());
   void RequireRunning(const char* action) const;
   void EnsureCreated(int index);
-  bool Activate(int index, int direction);
+  void Activate(int index, int direction);
   bool ChangePage(int target, int direction);
   bool Apply(bool closing);
-  bool WizardButtonEnabled(unsigned button) const;
   int IndexOfDialogId(int dialogId) const;
   void End(int result);
 
@@ -87,7 +96,6 @@ class HeadlessRunner {
   std::vector<Entry> pages_;
   int current_ = -1;
   bool running_ = false;
-  bool applied_ = false;
   int result_ = 0;
 };
 

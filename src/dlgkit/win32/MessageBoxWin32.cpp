@@ -168,6 +168,13 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
     SetDlgItemTextA(window, orv::kMessageBoxTextId, text_.c_str());
     FitText(window);
     CentreOnParent(window);
+    // The focus goes to the button the flags name: the focused push button is the one Enter
+    // presses. Having set the focus, init answers FALSE so the dialog manager leaves it there.
+    // When the flags name a button the box doesn't have, the dialog manager's choice stands.
+    if (style_.defaultIndex >= 0 && static_cast<std::size_t>(style_.defaultIndex) < style_.buttons.size()) {
+      SetFocus(GetDlgItem(window, style_.buttons[static_cast<std::size_t>(style_.defaultIndex)].id));
+      return FALSE;
+    }
     return TRUE;
   }
 
