@@ -232,6 +232,17 @@ const std::vector<SequenceCase>& SequenceCases() {
         "now C, Back, Next", "press Next", "C next",  //
         "now C, Back, Next", "press Cancel", "C querycancel", "A reset", "B reset", "C reset",  //
         "result 0"}},
+      {"WizardButtonsAreTheWizardsNotThePages",
+       {Offers(kWizNext), Plain(), Offers(kWizBack | kWizFinish)},
+       0,
+       true,
+       {kNext, kNext, kBack, kFinish},
+       {"sheet initialized", "A init", "A set",  //
+        "now A, Next", "press Next", "A next", "A kill", "B init", "B set",  //
+        "now B, Next", "press Next", "B next", "B kill", "C init", "C set",  //
+        "now C, Back, Finish", "press Back", "C back", "C kill", "B set",  //
+        "now B, Back, Finish", "press Finish", "B finish",  //
+        "result 1"}},
   };
   return cases;
 }
