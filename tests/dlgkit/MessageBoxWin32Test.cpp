@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <ostream>
 #include <string>
 
 #include "WindowCapture.h"
@@ -236,6 +237,8 @@ struct EnterCase {
   bool owned;  // shown over a visible owner window
   const wchar_t* picture = nullptr;  // a picture of the box before Enter, to look at
 };
+
+void PrintTo(const EnterCase& c, std::ostream* os) { *os << c.name; }
 
 class MessageBoxEnter : public ::testing::TestWithParam<EnterCase> {
  protected:

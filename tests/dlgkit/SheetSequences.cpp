@@ -6,7 +6,7 @@ namespace orv::seqtest {
 namespace {
 
 PageRole Plain() { return {}; }
-PageRole Changed() {
+PageRole ChangesWhileCreated() {
   PageRole role;
   role.changesOnInit = true;
   return role;
@@ -180,7 +180,7 @@ const std::vector<SequenceCase>& SequenceCases() {
         "now A", "press Cancel", "A querycancel", "A reset",  //
         "result 0"}},
       {"AChangeTheStartPageMakesWhileItStartsLeavesApplyOff",
-       {Changed(), Plain(), Plain()},
+       {ChangesWhileCreated(), Plain(), Plain()},
        0,
        false,
        {Click(1), kCancel},
@@ -189,7 +189,7 @@ const std::vector<SequenceCase>& SequenceCases() {
         "now B", "press Cancel", "B querycancel", "A reset", "B reset",  //
         "result 0"}},
       {"AChangeALaterPageMakesWhileItStartsTurnsApplyOn",
-       {Plain(), Changed(), Plain()},
+       {Plain(), ChangesWhileCreated(), Plain()},
        0,
        false,
        {Click(1), kApply, kCancel},
