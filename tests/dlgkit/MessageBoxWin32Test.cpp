@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <ostream>
 #include <string>
 
 #include "WindowCapture.h"
@@ -234,7 +235,10 @@ struct EnterCase {
   unsigned flags;
   int answer;  // the default button's id
   bool owned;  // shown over a visible owner window
+  const wchar_t* picture = nullptr;  // a picture of the box before Enter, to look at
 };
+
+void PrintTo(const EnterCase& c, std::ostream* os) { *os << c.name; }
 
 class MessageBoxEnter : public ::testing::TestWithParam<EnterCase> {
  protected:
@@ -261,6 +265,7 @@ TEST_P(MessageBoxEnter, AnswersWithTheDefaultButton) {
     ASSERT_NE(GetDlgItem(box, 101), nullptr) << "the focus is in the box";
     focused = GetDlgCtrlID(focus);
     defaultStyle = (GetWindowLongW(GetDlgItem(box, c.answer), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON;
+    if (c.picture) Picture(box, c.picture);
     PostMessageW(focus, WM_KEYDOWN, VK_RETURN, MAKELPARAM(1, MapVirtualKeyW(VK_RETURN, 0)));
   });
   const int answer = OrvMessageBox(owner, "Replace the study?", "Box", c.flags);
@@ -277,7 +282,7 @@ INSTANTIATE_TEST_SUITE_P(
                       EnterCase{"OkCancelFirst", MB_OKCANCEL, IDOK, false},
                       EnterCase{"OkCancelSecond", MB_OKCANCEL | MB_DEFBUTTON2, IDCANCEL, false},
                       EnterCase{"YesNoFirst", MB_YESNO, IDYES, false},
-                      EnterCase{"YesNoSecond", MB_YESNO | MB_DEFBUTTON2, IDNO, false},
+                      EnterCase{"YesNoSecond", MB_YESNO | MB_DEFBUTTON2, IDNO, false, L"msgbox-default-no.png"},
                       EnterCase{"YesNoSecondOwned", MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2, IDNO, true},
                       EnterCase{"YesNoCancelFirst", MB_YESNOCANCEL, IDYES, false},
                       EnterCase{"YesNoCancelSecond", MB_YESNOCANCEL | MB_DEFBUTTON2, IDNO, false},

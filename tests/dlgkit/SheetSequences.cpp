@@ -6,7 +6,7 @@ namespace orv::seqtest {
 namespace {
 
 PageRole Plain() { return {}; }
-PageRole Changed() {
+PageRole ChangesWhileCreated() {
   PageRole role;
   role.changesOnInit = true;
   return role;
@@ -180,7 +180,7 @@ const std::vector<SequenceCase>& SequenceCases() {
         "now A", "press Cancel", "A querycancel", "A reset",  //
         "result 0"}},
       {"AChangeTheStartPageMakesWhileItStartsLeavesApplyOff",
-       {Changed(), Plain(), Plain()},
+       {ChangesWhileCreated(), Plain(), Plain()},
        0,
        false,
        {Click(1), kCancel},
@@ -189,7 +189,7 @@ const std::vector<SequenceCase>& SequenceCases() {
         "now B", "press Cancel", "B querycancel", "A reset", "B reset",  //
         "result 0"}},
       {"AChangeALaterPageMakesWhileItStartsTurnsApplyOn",
-       {Plain(), Changed(), Plain()},
+       {Plain(), ChangesWhileCreated(), Plain()},
        0,
        false,
        {Click(1), kApply, kCancel},
@@ -232,6 +232,17 @@ const std::vector<SequenceCase>& SequenceCases() {
         "now C, Back, Next", "press Next", "C next",  //
         "now C, Back, Next", "press Cancel", "C querycancel", "A reset", "B reset", "C reset",  //
         "result 0"}},
+      {"WizardButtonsAreTheWizardsNotThePages",
+       {Offers(kWizNext), Plain(), Offers(kWizBack | kWizFinish)},
+       0,
+       true,
+       {kNext, kNext, kBack, kFinish},
+       {"sheet initialized", "A init", "A set",  //
+        "now A, Next", "press Next", "A next", "A kill", "B init", "B set",  //
+        "now B, Next", "press Next", "B next", "B kill", "C init", "C set",  //
+        "now C, Back, Finish", "press Back", "C back", "C kill", "B set",  //
+        "now B, Back, Finish", "press Finish", "B finish",  //
+        "result 1"}},
   };
   return cases;
 }

@@ -15,6 +15,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -220,5 +221,7 @@ struct Session {
 const std::vector<SequenceCase>& SequenceCases();
 
 inline std::string CaseName(const SequenceCase& c) { return c.name; }
+// A failing case names itself rather than printing its bytes.
+inline void PrintTo(const SequenceCase& c, std::ostream* os) { *os << c.name; }
 
 }  // namespace orv::seqtest

@@ -107,6 +107,8 @@ class FakeControls final : public Controls {
   // Who answers kWmLsPageApply (the sheet); without one the answer is 0.
   void SetPageApplyHandler(std::function<std::intptr_t(int dialogId)> handler) { applyHandler_ = std::move(handler); }
   std::optional<unsigned> WizardButtons() const { return wizardButtons_; }
+  // Who hears PSM_SETWIZBUTTONS besides this record (the wizard: its buttons are the sheet's).
+  void SetWizardButtonsHandler(std::function<void(unsigned flags)> handler) { wizardHandler_ = std::move(handler); }
   const std::vector<std::pair<std::string, int>>& HelpRequests() const { return helpRequests_; }
 
   // --- Controls ---
@@ -161,7 +163,10 @@ class FakeControls final : public Controls {
   void SheetChanged() override;
   void SheetUnchanged() override;
   std::intptr_t SendPageApply(int dialogId) override;
-  void SetWizardButtons(unsigned flags) override { wizardButtons_ = flags; }
+  void SetWizardButtons(unsigned flags) override {
+    wizardButtons_ = flags;
+    if (wizardHandler_) wizardHandler_(flags);
+  }
 
  private:
   FakeControl* Find(int id);
@@ -191,6 +196,7 @@ class FakeControls final : public Controls {
   std::vector<int> pageApplySent_;
   std::function<std::intptr_t(int)> applyHandler_;
   std::optional<unsigned> wizardButtons_;
+  std::function<void(unsigned)> wizardHandler_;
   std::vector<std::pair<std::string, int>> helpRequests_;
 };
 

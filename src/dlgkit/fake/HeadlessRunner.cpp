@@ -36,7 +36,11 @@ void HeadlessRunner::Start(int startPage) {
   running_ = true;
   result_ = 0;
   current_ = -1;
-  for (Entry& entry : pages_) entry.controls->AttachPage(entry.page);
+  *wizardButtons_ = kWizBack | kWizNext;
+  for (Entry& entry : pages_) {
+    entry.controls->AttachPage(entry.page);
+    entry.controls->SetWizardButtonsHandler([buttons = wizardButtons_](unsigned flags) { *buttons = flags; });
+  }
   if (pages_.empty()) return;
   if (startPage < 0 || startPage >= PageCount()) startPage = 0;
   Guard([&] {
@@ -147,8 +151,7 @@ bool HeadlessRunner::PressCancel() {
 
 bool HeadlessRunner::IsWizardButtonEnabled(unsigned button) const {
   if (mode_ != Mode::Wizard || current_ < 0) return false;
-  const auto buttons = pages_[static_cast<std::size_t>(current_)].controls->WizardButtons();
-  return (buttons.value_or(kWizBack | kWizNext) & button) != 0;
+  return (*wizardButtons_ & button) != 0;
 }
 
 int HeadlessRunner::IndexOfDialogId(int dialogId) const {

@@ -25,13 +25,14 @@
 //   the run ends.
 // - Wizard: Next / Back ask the current page (kWizardStay stays, kWizardDefault goes to the
 //   neighbour, a dialog id jumps to that page), then change page as above, passing refusing
-//   pages over in the direction of travel. Finish asks OnWizardFinish and ends the run. Back
-//   and Next are live until the current page sets the wizard buttons; then a button it didn't
-//   enable does nothing.
+//   pages over in the direction of travel. Finish asks OnWizardFinish and ends the run. The
+//   wizard starts with Back and Next live; a page that sets the buttons sets them for the
+//   wizard, until a page sets them again. A button that isn't live does nothing.
 // - The result, as PropertySheet's: 1 when OK or Finish closed the sheet, 0 when Cancel did
 //   (also after an Apply), -1 when a page threw: the run ends and the exception reaches the test.
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "dlgkit/Page.h"
@@ -68,8 +69,9 @@ class HeadlessRunner {
   int CurrentPage() const { return current_; }
   bool IsCreated(int index) const;
   bool IsApplyEnabled() const;
-  // A wizard's button (kWizBack, kWizNext, kWizFinish) is live: as the current page last set
-  // them, else Back and Next, as the platform's wizard starts. A sheet has none.
+  // A wizard's button (kWizBack, kWizNext, kWizFinish) is live. The buttons are the wizard's,
+  // not a page's: they stay as the last page to set them left them, and a wizard starts with
+  // Back and Next. A sheet has none.
   bool IsWizardButtonEnabled(unsigned button) const;
   int PageCount() const { return static_cast<int>(pages_.size()); }
 
@@ -96,6 +98,8 @@ class HeadlessRunner {
   std::vector<Entry> pages_;
   int current_ = -1;
   bool running_ = false;
+  // Shared with the pages' controls, which may outlive this runner.
+  std::shared_ptr<unsigned> wizardButtons_ = std::make_shared<unsigned>(kWizBack | kWizNext);
   int result_ = 0;
 };
 
