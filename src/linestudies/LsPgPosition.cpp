@@ -44,6 +44,11 @@ void CLsPgPosition::UpdateControls() {
   }
 }
 
+void CLsPgPosition::ReloadWindow() {
+  UpdateControls();
+  LoadControls();
+}
+
 bool CLsPgPosition::LoadControls() {
   updating_ = true;
   if (Exchange(false, -1) && ExchangeExtra(false, -1)) {

@@ -21,6 +21,9 @@ class CLsPgPosition : public orv::ThemedPage<CLsPgPosition>, public CLsPgBase {
 
   // LineStudyPage
   orv::Page& AsPage() override { return *this; }
+  void BindWindow(orv::Controls& controls, orv::WindowHandle window) override { RebindWindow(controls, window); }
+  bool InitFurtherWindow() override { return OnInit(); }
+  void ReloadWindow() override;
 
   // Page
   void OnCommand(int id, int code) override;

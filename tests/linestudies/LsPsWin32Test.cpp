@@ -266,4 +266,51 @@ TEST_F(LsPsWin32, ExtendsOfTwoComeBackAsTwoAndTheMultiplierBoxHoldsWhatIsSent) {
       << closed;
 }
 
+// One page object in two tabs of the real sheet: each tab's window has its own controls, the
+// object follows the tab the user is in, and a tab shown again shows what the other one entered.
+TEST_F(LsPsWin32, APageInTwoTabsKeepsWhatEachTabEntered) {
+  Sheet sheet(&owner);
+  sheet.InitFromXml(LoadSheet(
+      "<PropertySheet Name=\"LSPs\"><PropertyPageList><PropertyPage Name=\"LsPgIntraTrend\"><MaxPos>50</MaxPos>"
+      "<VertexButtons Show=\"Yes\"/><CTrendline>" + lstest::StudyXml(false, {lstest::Pt{4, 5}, lstest::Pt{9, 6}}) +
+      "</CTrendline></PropertyPage><PropertyPage Name=\"LsPgIntraTrend\"><VertexButtons Show=\"Yes\"/></PropertyPage>"
+      "</PropertyPageList></PropertySheet>"));
+  HWND firstPage = nullptr, secondPage = nullptr;
+  std::vector<std::string> seen;
+  auto value = [](HWND page) { return TextOf(::GetDlgItem(page, IDC_LS_INTRA_VALUE)); };
+  auto type = [](HWND page, const char* text) { ::SetDlgItemTextA(page, IDC_LS_INTRA_VALUE, text); };
+  User user({[&](HWND sheetWindow, HWND page) {
+               firstPage = page;
+               type(page, "7");
+               ::SendMessageA(sheetWindow, PSM_SETCURSEL, 1, 0);
+             },
+             [&](HWND, HWND page) {
+               secondPage = page;
+               seen.push_back(value(page));  // 7: the object's value
+               type(page, "8");
+               Click(page, IDC_LS_VERTEX_1);
+               seen.push_back(value(page));       // 6: the end vertex
+               seen.push_back(value(firstPage));  // 7: the hidden window is left alone
+               type(page, "9");
+             },
+             [&](HWND sheetWindow, HWND) { ::SendMessageA(sheetWindow, PSM_SETCURSEL, 0, 0); },
+             [&](HWND, HWND page) {
+               seen.push_back(page == firstPage ? "first" : "other");
+               seen.push_back(value(page));  // 9: the end vertex, as entered in the other tab
+               type(page, "10");
+               Click(page, IDC_LS_VERTEX_0);
+               seen.push_back(value(page));        // 8
+               seen.push_back(value(secondPage));  // 9
+             },
+             [&](HWND sheetWindow, HWND) { ::SendMessageA(sheetWindow, PSM_PRESSBUTTON, PSBTN_OK, 0); }});
+  EXPECT_GT(sheet.DoModal(::GetActiveWindow()), 0);
+  EXPECT_FALSE(user.CancelledLeftover());
+  EXPECT_NE(firstPage, secondPage);
+  EXPECT_EQ(seen, (std::vector<std::string>{"7", "6", "7", "first", "9", "8", "9"}));
+  ASSERT_EQ(owner.events.size(), 1u);
+  const std::string sent = lstest::Compact(owner.events[0].value);
+  EXPECT_NE(sent.find("<XY_xPos>4</XY_xPos><XY_yValue>8.000000</XY_yValue>"), std::string::npos) << sent;
+  EXPECT_NE(sent.find("<XY_xPos>9</XY_xPos><XY_yValue>10.000000</XY_yValue>"), std::string::npos) << sent;
+}
+
 }  // namespace
