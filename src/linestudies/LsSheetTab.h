@@ -24,6 +24,7 @@ class LsSheetTab final : public orv::Page, public COrvDialog<LsSheetTab> {
     LsSheetTab* bound = nullptr;  // the tab whose window the object is pointed at
     LsSheetTab* shown = nullptr;  // the tab whose window holds what the object holds
     bool created = false;         // the object's first window exists
+    int depth = 0;                // calls of its tabs under way
   };
 
   LsSheetTab(orv::LineStudyPage& page, Views& views) : page_(page), views_(views) {}
@@ -42,54 +43,84 @@ class LsSheetTab final : public orv::Page, public COrvDialog<LsSheetTab> {
     AttachWindow(windowOps ? *windowOps : orv::DefaultWindowOps(), window);
     SubclassControls();
     LoadTheme();
-    Bind();
-    views_.shown = this;
-    return page_.InitFurtherWindow();
+    return Drive(true, [&] {
+      views_.shown = this;
+      return page_.InitFurtherWindow();
+    });
   }
 
   bool OnSetActive() override {
-    Bind();
-    if (views_.shown != this) {
-      views_.shown = this;
-      page_.ReloadWindow();
-    }
-    return Target().OnSetActive();
+    return Drive(true, [&] {
+      if (views_.shown != this) {
+        views_.shown = this;
+        page_.ReloadWindow();
+      }
+      return Target().OnSetActive();
+    });
   }
 
   bool OnAnyMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result) override {
-    return Bind() && Target().OnAnyMessage(message, wParam, lParam, result);
+    return Drive(false, [&] { return Target().OnAnyMessage(message, wParam, lParam, result); });
   }
-  bool OnKillActive() override { return Bind() && Target().OnKillActive(); }
+  bool OnKillActive() override {
+    return Drive(true, [&] { return Target().OnKillActive(); });
+  }
   orv::ApplyResult OnApply() override {
-    return Bind() ? Target().OnApply() : orv::ApplyResult::NoError;
+    return Drive(orv::ApplyResult::NoError, [&] { return Target().OnApply(); });
   }
   void OnReset() override {
-    if (Bind()) Target().OnReset();
+    Drive(true, [&] {
+      Target().OnReset();
+      return true;
+    });
   }
-  bool OnQueryCancel() override { return !Bind() || Target().OnQueryCancel(); }
+  bool OnQueryCancel() override {
+    return Drive(true, [&] { return Target().OnQueryCancel(); });
+  }
   void OnCommand(int id, int code) override {
-    if (Bind()) Target().OnCommand(id, code);
+    Drive(true, [&] {
+      Target().OnCommand(id, code);
+      return true;
+    });
   }
   bool OnNotify(int id, int code, const void* payload, std::intptr_t& result) override {
-    return Bind() && Target().OnNotify(id, code, payload, result);
+    return Drive(false, [&] { return Target().OnNotify(id, code, payload, result); });
   }
-  bool OnHelp() override { return Bind() && Target().OnHelp(); }
+  bool OnHelp() override {
+    return Drive(false, [&] { return Target().OnHelp(); });
+  }
   bool OnUnhandledMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
                           std::intptr_t& result) override {
-    return Bind() && Target().OnUnhandledMessage(message, wParam, lParam, result);
+    return Drive(false, [&] { return Target().OnUnhandledMessage(message, wParam, lParam, result); });
   }
 
  private:
   orv::Page& Target() { return page_.AsPage(); }
 
-  // Points the object at this tab's window; false before the window exists (nothing to drive).
-  bool Bind() {
-    if (!controls_) return false;
-    if (views_.bound != this) {
-      page_.BindWindow(*controls_, window_);
-      views_.bound = this;
-    }
-    return true;
+  void Bind(LsSheetTab* tab) {
+    if (views_.bound == tab) return;
+    page_.BindWindow(*tab->controls_, tab->window_);
+    views_.bound = tab;
+  }
+
+  // Runs `call` with the object pointed at this tab's window. A call for the other window that
+  // comes while one is being handled (a message sent from inside a handler) points the object
+  // back when it is done, so the outer handler goes on with its own window. Before this tab's
+  // window exists there is nothing to drive, and the answer is `none`.
+  template <class R, class F>
+  R Drive(R none, F call) {
+    if (!controls_) return none;
+    struct Scope {
+      LsSheetTab& tab;
+      LsSheetTab* outer;  // the tab whose call this one is inside, if any
+      ~Scope() {
+        --tab.views_.depth;
+        if (outer && outer != &tab) tab.Bind(outer);
+      }
+    } scope{*this, views_.depth > 0 ? views_.bound : nullptr};
+    ++views_.depth;
+    Bind(this);
+    return call();
   }
 
   orv::LineStudyPage& page_;

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "FakeSheetOwner.h"
@@ -15,6 +17,7 @@
 #include "linestudies/LsPgDayTrend.h"
 #include "linestudies/LsPgIntraTrend.h"
 #include "linestudies/LsPs.h"
+#include "linestudies/LsSheetTab.h"
 
 namespace {
 
@@ -199,6 +202,84 @@ TEST(LsPsTabs, TheAdvancedPageInTwoTabsSendsWhatTheLastShownTabHolds) {
   EXPECT_EQ(run.Events(), (std::vector<std::string>{
                               EventXml("LsPgAdvanced", Advanced(true)),
                               EventXml("LsPgAdvanced", "<AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch>")}));
+}
+
+// --- the tab in front of a page object ---
+
+// A page object that records which window's controls it is pointed at when it is called.
+class RecordingPage final : public orv::Page, public orv::LineStudyPage {
+ public:
+  orv::Page& AsPage() override { return *this; }
+  bool Load(XmlNode) override { return true; }
+  void Save(XmlNode) override {}
+  bool IsDirty() const override { return false; }
+  void BindWindow(orv::Controls& controls, orv::WindowHandle) override { bound = &controls; }
+  bool InitFurtherWindow() override {
+    calls.push_back({"further init", bound});
+    return true;
+  }
+  void ReloadWindow() override { calls.push_back({"reload", bound}); }
+
+  int DialogId() const override { return IDD_LS_PG_DAY_TREND; }
+  bool OnInitDialog(orv::Controls& controls, orv::WindowHandle, orv::WindowOps*) override {
+    bound = &controls;
+    calls.push_back({"init", bound});
+    return true;
+  }
+  bool OnKillActive() override {
+    calls.push_back({"kill active", bound});
+    return true;
+  }
+  void OnCommand(int id, int) override {
+    calls.push_back({"command " + std::to_string(id), bound});
+    if (inside) std::exchange(inside, nullptr)();
+    calls.push_back({"command " + std::to_string(id) + " ends", bound});
+  }
+
+  orv::Controls* bound = nullptr;
+  std::function<void()> inside;  // a call that comes while the next command is handled
+  std::vector<std::pair<std::string, orv::Controls*>> calls;
+};
+
+TEST(LsSheetTab, TheObjectWorksOnTheWindowOfTheTabThatCalls) {
+  RecordingPage page;
+  LsSheetTab::Views views;
+  LsSheetTab first(page, views), second(page, views);
+  FakeControls firstControls, secondControls;
+  using Calls = std::vector<std::pair<std::string, orv::Controls*>>;
+
+  // Before its window exists a tab passes nothing on.
+  EXPECT_TRUE(second.OnKillActive());
+  EXPECT_TRUE(page.calls.empty());
+
+  EXPECT_TRUE(first.OnInitDialog(firstControls, nullptr, nullptr));
+  EXPECT_TRUE(first.OnSetActive());
+  EXPECT_TRUE(first.OnKillActive());
+  EXPECT_TRUE(second.OnInitDialog(secondControls, nullptr, nullptr));
+  EXPECT_TRUE(second.OnSetActive());
+  second.OnCommand(7, 0);
+  EXPECT_EQ(page.calls, (Calls{{"init", &firstControls},
+                               {"kill active", &firstControls},
+                               {"further init", &secondControls},
+                               {"command 7", &secondControls},
+                               {"command 7 ends", &secondControls}}));
+
+  // Shown again after the other window was used: reloaded from the object, once.
+  page.calls.clear();
+  EXPECT_TRUE(second.OnKillActive());
+  EXPECT_TRUE(first.OnSetActive());
+  EXPECT_TRUE(first.OnSetActive());
+  EXPECT_EQ(page.calls, (Calls{{"kill active", &secondControls}, {"reload", &firstControls}}));
+
+  // A call for the other window inside a handler: the handler goes on with its own window.
+  page.calls.clear();
+  page.inside = [&] { second.OnCommand(2, 0); };
+  first.OnCommand(1, 0);
+  EXPECT_EQ(page.calls, (Calls{{"command 1", &firstControls},
+                               {"command 2", &secondControls},
+                               {"command 2 ends", &secondControls},
+                               {"command 1 ends", &firstControls}}));
+  EXPECT_EQ(first.DialogId(), IDD_LS_PG_DAY_TREND);
 }
 
 }  // namespace
