@@ -42,9 +42,14 @@ class Controls {
   // *translated (may be null) tells success; on failure the result is 0.
   virtual unsigned GetDlgItemInt(int id, bool* translated, bool isSigned) = 0;
   virtual bool SetDlgItemInt(int id, unsigned value, bool isSigned) = 0;
+  // EM_LIMITTEXT: the most characters the user can enter into an edit box. Like the platform's,
+  // it stops typing and pasting only; text the program sets is not cut.
+  virtual bool LimitDlgItemText(int id, std::size_t maxChars) = 0;
 
   // --- buttons ---
   virtual int IsDlgButtonChecked(int id) = 0;  // kBstUnchecked / kBstChecked / kBstIndeterminate
+  // As BM_SETCHECK: a box holds at most what its style allows, so kBstIndeterminate stays only
+  // in a three-state box; a two-state box (and a radio) takes it as kBstChecked.
   virtual bool CheckDlgButton(int id, int state) = 0;
 
   // --- presence, visibility, enabling, placement ---

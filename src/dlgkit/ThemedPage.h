@@ -27,6 +27,12 @@ class ThemedPage : public Page, public COrvDialog<T>, public CWinDataExchangeZel
   // The page's controls; valid from init until its window is destroyed.
   Controls& Ctl() { return *controls_; }
   WindowHandle Window() const { return window_; }
+  // Points Ctl() and Window() at another window made from the page's template, already
+  // initialised: a page object that stands in two tabs answers the one whose message it handles.
+  void RebindWindow(Controls& controls, WindowHandle window) {
+    controls_ = &controls;
+    window_ = window;
+  }
 
   bool OnInitDialog(Controls& controls, WindowHandle window, WindowOps* windowOps) final {
     controls_ = &controls;

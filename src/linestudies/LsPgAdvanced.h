@@ -26,6 +26,9 @@ class CLsPgAdvanced final : public orv::ThemedPage<CLsPgAdvanced>, public orv::L
   bool Load(XmlNode propertyPage) override;
   void Save(XmlNode propertyPage) override;
   bool IsDirty() const override { return dirty_; }
+  void BindWindow(orv::Controls& controls, orv::WindowHandle window) override { RebindWindow(controls, window); }
+  bool InitFurtherWindow() override { return OnInitPage(); }
+  void ReloadWindow() override { OnInitPage(); }
 
   // Page
   int DialogId() const override { return kDialogId; }

@@ -26,8 +26,8 @@ bool CLsPgBase::Load(XmlNode propertyPage) {
   if (!study) return false;
   XmlNode list = XmlFindNode(study, "LS_CtrlPtList", true);
   if (!list) return false;
-  // A page loaded twice (its name twice in the sheet) takes the second list over the first.
-  points_.clear();
+  // The points are appended: a page loaded twice (its name twice in the sheet) holds the first
+  // element's points and then the second's.
   for (XmlNode child = XmlFirstChild(list); child && points_.size() < kMaxPoints; child = XmlNextSibling(child)) {
     if (!LsIsElement(child)) continue;
     CXYCoord point;
@@ -61,7 +61,7 @@ CXYCoord& CLsPgBase::Point(int index) {
 void CLsPgBase::LoadSnapEntries(XmlNode propertyPage) {
   XmlNode list = XmlFindNode(propertyPage, "SnapEntryList", true);
   if (!list) return;
-  snapEntries_.clear();
+  // Appended like the points: a second load adds its entries behind the first's.
   for (XmlNode entry = XmlFindChild(list, "SnapEntry"); entry && snapEntries_.size() < kMaxSnapEntries;
        entry = XmlFindNode(XmlNextSibling(entry), "SnapEntry", false)) {
     std::string text;

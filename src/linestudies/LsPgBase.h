@@ -31,7 +31,8 @@ class CLsPgBase : public orv::LineStudyPage {
   virtual void OnBeforeApply() {}
 
   // Reads CLineStudy (a deep search from the PropertyPage, on through the following pages), its
-  // LS_CtrlPtList and PosLock. False, with the points as they were, when either element is absent.
+  // LS_CtrlPtList, whose points are appended to those the page holds, and PosLock. False, with
+  // the points as they were, when either element is absent.
   bool Load(XmlNode propertyPage) override;
   // Appends CLineStudy with PosLock and LS_CtrlPtList to `parent` (the page's wrapper element).
   void Save(XmlNode parent) override;
@@ -55,7 +56,7 @@ class CLsPgBase : public orv::LineStudyPage {
   // The Intra form: MaxPos, a direct child of the PropertyPage, then Load.
   bool LoadWithMaxPos(XmlNode propertyPage);
   // SnapEntryList (deep search): each SnapEntry's text is an index into kSnapTable. An index
-  // outside the table is passed over. A list found replaces the entries of an earlier load.
+  // outside the table is passed over. The entries are appended to those of an earlier load.
   void LoadSnapEntries(XmlNode propertyPage);
   // VertexButtons/@Show, a direct child of the PropertyPage: anything but "No" (any case) shows
   // the radio buttons; no element hides them.

@@ -32,7 +32,7 @@ void CLsPgPosition::UpdateControls() {
   // The lock box is hidden in every template; only a study that has a lock shows it.
   if (hasPosLock_) Ctl().ShowDlgItem(IDC_LS_POS_LOCK, true);
   if (hideVertexButtons_) {
-    for (int id = kFirstVertexButton; id < kLastVertexButton; ++id) {
+    for (int id = kFirstVertexButton; id <= kLastHiddenVertexButton; ++id) {
       if (!Ctl().HasDlgItem(id)) continue;
       Ctl().ShowDlgItem(id, false);
       Ctl().EnableDlgItem(id, false);
@@ -42,6 +42,11 @@ void CLsPgPosition::UpdateControls() {
     // A line fitted from its first vertex decides the second one's place itself.
     Ctl().EnableDlgItem(snapId_, !(currentVertex_ == 1 && Point(0).lSnap == kSnapBestFit));
   }
+}
+
+void CLsPgPosition::ReloadWindow() {
+  UpdateControls();
+  LoadControls();
 }
 
 bool CLsPgPosition::LoadControls() {
@@ -194,7 +199,9 @@ void CLsPgPosition::ExchangeTextField(int boxId, std::string& field, std::size_t
   if (save) {
     field = Ctl().GetDlgItemTextA(boxId, bufferSize);
   } else {
-    Ctl().SetDlgItemTextA(boxId, field);
+    // The box shows what reading it back gives, no more: a longer text from the host would be
+    // shown whole and sent cut. The field keeps the host's text until the box is read.
+    Ctl().SetDlgItemTextA(boxId, std::string_view(field).substr(0, bufferSize ? bufferSize - 1 : 0));
   }
 }
 

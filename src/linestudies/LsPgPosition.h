@@ -16,9 +16,14 @@ class CLsPgPosition : public orv::ThemedPage<CLsPgPosition>, public CLsPgBase {
  public:
   static constexpr int kFirstVertexButton = IDC_LS_VERTEX_0;
   static constexpr int kLastVertexButton = IDC_LS_VERTEX_5;
+  // Hiding the vertex buttons hides the first five; a sixth stays as its template has it.
+  static constexpr int kLastHiddenVertexButton = IDC_LS_VERTEX_4;
 
   // LineStudyPage
   orv::Page& AsPage() override { return *this; }
+  void BindWindow(orv::Controls& controls, orv::WindowHandle window) override { RebindWindow(controls, window); }
+  bool InitFurtherWindow() override { return OnInit(); }
+  void ReloadWindow() override;
 
   // Page
   void OnCommand(int id, int code) override;
@@ -69,10 +74,15 @@ class CLsPgPosition : public orv::ThemedPage<CLsPgPosition>, public CLsPgBase {
   bool ExchangeSnap(bool save, int controlId);
   // A check box holding 0, 1 or 2; on load another value is taken as 0.
   void ExchangeCheckField(int boxId, std::int32_t& field, bool save, int controlId);
-  // A text field kept as text, read through a buffer of `bufferSize` characters.
+  // A text field kept as text, read through a buffer of `bufferSize` characters; the box shows
+  // and takes at most what that buffer reads back (see LimitTextField).
   void ExchangeTextField(int boxId, std::string& field, std::size_t bufferSize, bool save, int controlId);
   // Runs the hooks of a successful saving exchange.
   void ValuesSaved();
+  // Lets the user enter no more into a text field's box than its buffer reads back.
+  void LimitTextField(int boxId, std::size_t bufferSize) {
+    if (boxId && bufferSize) Ctl().LimitDlgItemText(boxId, bufferSize - 1);
+  }
   static bool Covers(int controlId, int id) { return controlId == -1 || controlId == id; }
 
   int valueId_ = 0;    // 0: the page has no value box

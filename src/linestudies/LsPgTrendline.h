@@ -24,7 +24,7 @@ struct LsTrendlineLayout {
 template <class Base>
 class CLsPgTrendline : public Base {
  public:
-  // What the channel's multiplier box holds.
+  // The buffer the channel's multiplier is read through: the box holds 31 characters.
   static constexpr std::size_t kMultiplierBuffer = 32;
 
   bool Load(XmlNode propertyPage) override {
@@ -44,6 +44,11 @@ class CLsPgTrendline : public Base {
     if (layout_.extendLeftId) XmlAddValueChild(wrapper, "LSTrl_Extendpt1", extend1_);
     if (layout_.extendRightId) XmlAddValueChild(wrapper, "LSTrl_Extendpt2", extend2_);
     if (layout_.multiplierId) XmlAddTextChild(wrapper, "Multiplier", multiplier_);
+  }
+
+  bool OnInit() override {
+    this->LimitTextField(layout_.multiplierId, kMultiplierBuffer);
+    return Base::OnInit();
   }
 
   bool ExchangeExtra(bool save, int controlId) override {

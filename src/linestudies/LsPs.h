@@ -20,6 +20,7 @@
 #include "dlgkit/SheetRunner.h"
 #include "linestudies/LineStudyPage.h"
 #include "linestudies/LsPageTable.h"
+#include "linestudies/LsSheetTab.h"
 #include "xml/Xml.h"
 #include "xml/XmlError.h"
 
@@ -49,6 +50,8 @@ class CLsPs : public COrvDialog<CLsPs<T>> {
       for (std::size_t slot = 0; slot < table.size(); ++slot) {
         if (elementName != table[slot].name) continue;
         if (!table[slot].create) break;  // not built yet: passed over like an unknown name
+        // A name that comes twice adds the same object as a second tab and loads it again, on
+        // top of what the first element gave it.
         if (!slots_[slot]) slots_[slot] = table[slot].create();
         tabs_.push_back(slot);
         slots_[slot]->Load(element);
@@ -77,7 +80,14 @@ class CLsPs : public COrvDialog<CLsPs<T>> {
     orv::SheetSetup setup;
     setup.title = title_;
     setup.parent = parent;
-    for (std::size_t slot : tabs_) setup.pages.push_back({&slots_[slot]->AsPage(), table[slot].dialogId});
+    // Each tab drives its page object through a tab of its own, so that an object in two tabs
+    // always works on the window of the tab that speaks (see LsSheetTab).
+    std::array<LsSheetTab::Views, orv::kLsPageCount> views{};
+    std::vector<std::unique_ptr<LsSheetTab>> tabPages;
+    for (std::size_t slot : tabs_) {
+      tabPages.push_back(std::make_unique<LsSheetTab>(*slots_[slot], views[slot]));
+      setup.pages.push_back({tabPages.back().get(), table[slot].dialogId});
+    }
     // The sheet is a themed dialog too: its own children (tabs, buttons) get the host's theme.
     setup.onInitialized = [this](orv::WindowHandle window, orv::WindowOps& ops) {
       window_ = window;

@@ -23,7 +23,7 @@ struct Dialog : CWinDataExchangeZel<Dialog> {
   orv::Controls& Ctl() { return controls; }
   Dialog() {
     controls.Add(kEdit, FakeControlKind::Edit)
-        .Add(kCheck, FakeControlKind::CheckBox)
+        .Add(kCheck, FakeControlKind::ThreeStateCheckBox)
         .Add(kCombo, FakeControlKind::ComboBox)
         .Add(kOther, FakeControlKind::Edit);
     controls.SetFocus(kOther);

@@ -16,6 +16,7 @@ namespace {
 constexpr int kEdit = 1001;
 constexpr int kCheck = 1002;
 constexpr int kCombo = 1003;
+constexpr int kThreeState = 1004;
 constexpr UINT kRunScenario = WM_APP + 1;
 
 class ExchangePage : public orv::Page, public CWinDataExchangeZel<ExchangePage> {
@@ -57,6 +58,7 @@ std::vector<WORD> ExchangeTemplate() {
   builder.AddItem(orv::test::kEditClass, "", kEdit, ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP, 10, 10, 80, 12);
   builder.AddItem(orv::test::kButtonClass, "Show", kCheck, BS_AUTOCHECKBOX | WS_TABSTOP, 10, 30, 80, 12);
   builder.AddItem(orv::test::kComboBoxClass, "", kCombo, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, 10, 50, 80, 60);
+  builder.AddItem(orv::test::kButtonClass, "Both", kThreeState, BS_AUTO3STATE | WS_TABSTOP, 10, 70, 80, 12);
   builder.AddItem(orv::test::kButtonClass, "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 110, 80, 40, 14);
   return builder.Build();
 }
@@ -99,6 +101,45 @@ TEST(DataExchangeWin32, MovesValuesBothWaysThroughRealControls) {
     EXPECT_TRUE(p.DDX_ComboData(kCombo, &data, false));
     EXPECT_EQ(::SendDlgItemMessageA(p.window_, kCombo, CB_GETCURSEL, 0, 0), 0);
     EXPECT_EQ(p.Text(kCombo), "Daily");
+  };
+  RunExchangeDialog(page);
+}
+
+// The table of HeadlessRunnerTest's CheckStatesAreWhatTheBoxCanHold, on real buttons: what a
+// two-state and a three-state box keep of each state, and where a click takes them.
+TEST(DataExchangeWin32, CheckStatesAreWhatTheBoxCanHold) {
+  struct Case {
+    int id;
+    int set;
+    int kept;
+    int afterClick;
+  };
+  const Case cases[] = {
+      {kCheck, 0, 0, 1},      {kCheck, 1, 1, 0},      {kCheck, 2, 1, 0},      {kCheck, -1, 1, 0},
+      {kThreeState, 0, 0, 1}, {kThreeState, 1, 1, 2}, {kThreeState, 2, 2, 0}, {kThreeState, 7, 2, 0},
+  };
+  ExchangePage page;
+  page.scenario = [&](ExchangePage& p) {
+    for (const Case& c : cases) {
+      SCOPED_TRACE(testing::Message() << "box " << c.id << " set " << c.set);
+      EXPECT_TRUE(p.Ctl().CheckDlgButton(c.id, c.set));
+      EXPECT_EQ(p.Ctl().IsDlgButtonChecked(c.id), c.kept);
+      ::SendMessageA(p.Item(c.id), BM_CLICK, 0, 0);
+      EXPECT_EQ(p.Ctl().IsDlgButtonChecked(c.id), c.afterClick);
+    }
+  };
+  RunExchangeDialog(page);
+}
+
+TEST(DataExchangeWin32, TextLimitStopsTheUserNotTheProgram) {
+  ExchangePage page;
+  page.scenario = [](ExchangePage& p) {
+    EXPECT_TRUE(p.Ctl().LimitDlgItemText(kEdit, 4));
+    ::SetDlgItemTextA(p.window_, kEdit, "");
+    for (char c : std::string("123456")) ::SendMessageA(p.Item(kEdit), WM_CHAR, static_cast<WPARAM>(c), 1);
+    EXPECT_EQ(p.Text(kEdit), "1234");
+    EXPECT_TRUE(p.Ctl().SetDlgItemTextA(kEdit, "abcdef"));
+    EXPECT_EQ(p.Text(kEdit), "abcdef");
   };
   RunExchangeDialog(page);
 }

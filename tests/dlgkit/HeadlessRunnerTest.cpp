@@ -320,6 +320,43 @@ TEST(FakeControls, UserInputProducesTheControlsNotifications) {
   EXPECT_THROW(controls.SelectComboItem(kCombo, 5), std::logic_error);
 }
 
+// What a box keeps of each state it is given, and where a user's click takes it: the platform's
+// rules, which DataExchangeWin32Test checks against real buttons with the same table.
+TEST(FakeControls, CheckStatesAreWhatTheBoxCanHold) {
+  struct Case {
+    FakeControlKind kind;
+    int set;
+    int kept;
+    int afterClick;
+  };
+  const Case cases[] = {
+      {FakeControlKind::CheckBox, 0, 0, 1},           {FakeControlKind::CheckBox, 1, 1, 0},
+      {FakeControlKind::CheckBox, 2, 1, 0},           {FakeControlKind::CheckBox, -1, 1, 0},
+      {FakeControlKind::ThreeStateCheckBox, 0, 0, 1}, {FakeControlKind::ThreeStateCheckBox, 1, 1, 2},
+      {FakeControlKind::ThreeStateCheckBox, 2, 2, 0}, {FakeControlKind::ThreeStateCheckBox, 7, 2, 0},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(testing::Message() << "kind " << static_cast<int>(c.kind) << " set " << c.set);
+    orv::FakeControls controls;
+    controls.Add(kCheck, c.kind);
+    EXPECT_TRUE(controls.CheckDlgButton(kCheck, c.set));
+    EXPECT_EQ(controls.IsDlgButtonChecked(kCheck), c.kept);
+    controls.Click(kCheck);
+    EXPECT_EQ(controls.IsDlgButtonChecked(kCheck), c.afterClick);
+  }
+}
+
+TEST(FakeControls, TextLimitStopsTheUserNotTheProgram) {
+  orv::FakeControls controls;
+  controls.Add(kEdit, FakeControlKind::Edit).Add(kCheck, FakeControlKind::CheckBox);
+  EXPECT_TRUE(controls.LimitDlgItemText(kEdit, 4));
+  EXPECT_FALSE(controls.LimitDlgItemText(kCheck, 4)) << "only an edit takes a limit";
+  controls.TypeText(kEdit, "123456");
+  EXPECT_EQ(controls.GetDlgItemTextA(kEdit, 64), "1234");
+  controls.SetDlgItemTextA(kEdit, "abcdef");
+  EXPECT_EQ(controls.GetDlgItemTextA(kEdit, 64), "abcdef");
+}
+
 TEST(FakeControls, MessageBoxesAreRecordedAndAnswered) {
   orv::FakeControls controls;
   EXPECT_EQ(controls.OrvMessageBox("Delete Line?", "Delete", 36), 6);  // first button: Yes

@@ -26,13 +26,18 @@ inline void AddIntraPosition(FakeControls& c) {
   c.Add(IDC_LS_INTRA_SPIN, FakeControlKind::UpDown).Add(IDC_LS_INTRA_TICK, FakeControlKind::Edit);
 }
 
+// The extend boxes hold 0, 1 or 2: three-state boxes.
+inline void AddExtends(FakeControls& c, int leftId, int rightId) {
+  if (leftId) c.Add(leftId, FakeControlKind::ThreeStateCheckBox, "Extend Left");
+  c.Add(rightId, FakeControlKind::ThreeStateCheckBox, "Extend Right");
+}
+
 // Trend, regression channel and VWAP: vertex radios, the position, a snap box and extend boxes.
 inline void DayLineLayout(FakeControls& c, int snapId, int leftId, int rightId, int multiplierId) {
   AddVertexRadios(c, false);
   c.Add(IDC_LS_DAY_DATE, FakeControlKind::DatePicker).Add(IDC_LS_DAY_VALUE, FakeControlKind::Edit);
   c.Add(snapId, FakeControlKind::ComboBox);
-  if (leftId) c.Add(leftId, FakeControlKind::CheckBox, "Extend Left");
-  c.Add(rightId, FakeControlKind::CheckBox, "Extend Right");
+  AddExtends(c, leftId, rightId);
   AddLock(c);
   if (multiplierId) c.Add(multiplierId, FakeControlKind::Edit);
 }
@@ -41,8 +46,7 @@ inline void IntraLineLayout(FakeControls& c, int snapId, int leftId, int rightId
   AddVertexRadios(c, false);
   AddIntraPosition(c);
   c.Add(IDC_LS_INTRA_VALUE, FakeControlKind::Edit).Add(snapId, FakeControlKind::ComboBox);
-  if (leftId) c.Add(leftId, FakeControlKind::CheckBox, "Extend Left");
-  c.Add(rightId, FakeControlKind::CheckBox, "Extend Right");
+  AddExtends(c, leftId, rightId);
   AddLock(c);
   if (multiplierId) c.Add(multiplierId, FakeControlKind::Edit);
 }

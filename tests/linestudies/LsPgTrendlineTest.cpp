@@ -434,23 +434,54 @@ TEST(LsTrendlinePages, BestFitStartTurnsTheEndsSnapBoxOff) {
 
 // --- the page's own controls ---
 
-TEST(LsTrendlinePages, ExtendBoxesTakeZeroToTwoAndCountAsChanges) {
+TEST(LsTrendlinePages, ExtendBoxesHoldZeroToTwoAndCountAsChanges) {
+  struct Case {
+    const char* stored;      // LSTrl_Extendpt1 from the host
+    int shown;               // the box's state
+    std::vector<int> after;  // the state after each of the user's clicks
+  };
+  const Case cases[] = {
+      {"0", orv::kBstUnchecked, {orv::kBstChecked, orv::kBstIndeterminate, orv::kBstUnchecked}},
+      {"1", orv::kBstChecked, {orv::kBstIndeterminate, orv::kBstUnchecked}},
+      {"2", orv::kBstIndeterminate, {orv::kBstUnchecked, orv::kBstChecked}},
+      {"5", orv::kBstUnchecked, {orv::kBstChecked}},
+      {"-1", orv::kBstUnchecked, {orv::kBstChecked}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.stored);
+    SheetRun run;
+    run.Run(SheetXml("LsPgIntraTrend", "<CTrendline>" + StudyXml(false, {Pt{4, 5}}) + "<LSTrl_Extendpt1>" + c.stored +
+                                           "</LSTrl_Extendpt1><LSTrl_Extendpt2>2</LSTrl_Extendpt2></CTrendline>"),
+            SyntheticChartData::Intraday(), [&](HeadlessSheetRunner& r) {
+              FakeControls& c0 = r.Tab(0);
+              EXPECT_EQ(c0.IsDlgButtonChecked(IDC_LS_INTRA_EXTEND_LEFT), c.shown);
+              EXPECT_FALSE(c0.IsSheetChanged());
+              for (int state : c.after) {
+                c0.Click(IDC_LS_INTRA_EXTEND_LEFT);
+                EXPECT_EQ(c0.IsDlgButtonChecked(IDC_LS_INTRA_EXTEND_LEFT), state);
+              }
+              EXPECT_TRUE(c0.IsSheetChanged());
+              EXPECT_TRUE(r.Sheet().PressOk());
+            });
+    ASSERT_EQ(run.Events().size(), 1u);
+    const std::string sent = orv::StrFormat("<LSTrl_Extendpt1>%d</LSTrl_Extendpt1><LSTrl_Extendpt2>2</LSTrl_Extendpt2>",
+                                            c.after.back());
+    EXPECT_NE(run.Events()[0].find(sent), std::string::npos) << run.Events()[0];
+  }
+}
+
+TEST(LsTrendlinePages, AnExtendOfTwoGoesBackAsTwoWhenTheUserChangesSomethingElse) {
+  const std::string extends = "<LSTrl_Extendpt1>2</LSTrl_Extendpt1><LSTrl_Extendpt2>2</LSTrl_Extendpt2>";
   SheetRun run;
-  run.Run(SheetXml("LsPgIntraTrend", "<CTrendline>" + StudyXml(false, {Pt{4, 5}}) +
-                                         "<LSTrl_Extendpt1>5</LSTrl_Extendpt1><LSTrl_Extendpt2>2</LSTrl_Extendpt2></CTrendline>"),
-          SyntheticChartData::Intraday(), [](HeadlessSheetRunner& r) {
-            FakeControls& c = r.Tab(0);
-            EXPECT_EQ(c.IsDlgButtonChecked(IDC_LS_INTRA_EXTEND_LEFT), orv::kBstUnchecked);
-            EXPECT_EQ(c.IsDlgButtonChecked(IDC_LS_INTRA_EXTEND_RIGHT), orv::kBstIndeterminate);
-            EXPECT_FALSE(c.IsSheetChanged());
-            c.Click(IDC_LS_INTRA_EXTEND_RIGHT);
-            EXPECT_TRUE(c.IsSheetChanged());
+  run.Run(SheetXml("LsPgDayLRC", "<CLinRegChan>" + StudyXml(true, {Pt{-1, 5, kJune3}}) + extends +
+                                     "<Multiplier>2</Multiplier></CLinRegChan>"),
+          SyntheticChartData::Daily(), [](HeadlessSheetRunner& r) {
+            r.Tab(0).Click(IDC_LS_POS_LOCK);
             EXPECT_TRUE(r.Sheet().PressOk());
           });
-  ASSERT_EQ(run.Events().size(), 1u);
-  EXPECT_NE(run.Events()[0].find("<LSTrl_Extendpt1>0</LSTrl_Extendpt1><LSTrl_Extendpt2>1</LSTrl_Extendpt2>"),
-            std::string::npos)
-      << run.Events()[0];
+  EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
+                              "LsPgDayLRC", Trendline("CLinRegChan", false, {Pt{-1, 5, kJune3}},
+                                                      extends + "<Multiplier>2</Multiplier>"))});
 }
 
 TEST(LsTrendlinePages, HorizontalLineOnAvgCloseStandsAtTheMean) {
@@ -488,12 +519,40 @@ TEST(LsTrendlinePages, ChannelMultiplierIsTextAndTheDayChannelsValueIsReadOnly) 
             EXPECT_FALSE(c.IsDlgItemEnabled(IDC_LS_DAY_VALUE));
             EXPECT_EQ(c.GetDlgItemTextA(IDC_LS_LRC_MULTIPLIER, 64), "2");
             c.TypeText(IDC_LS_LRC_MULTIPLIER, "two & a half, more than thirty-one characters long");
+            EXPECT_EQ(c.GetDlgItemTextA(IDC_LS_LRC_MULTIPLIER, 64), "two & a half, more than thirty-")
+                << "the box takes what is sent, no more";
             EXPECT_TRUE(c.IsSheetChanged());
             EXPECT_TRUE(r.Sheet().PressOk());
           });
   ASSERT_EQ(run.Events().size(), 1u);
   EXPECT_NE(run.Events()[0].find("<Multiplier>two &amp; a half, more than thirty-</Multiplier>"), std::string::npos)
       << run.Events()[0];
+}
+
+// A multiplier longer than the box: the box shows what would be sent; a page the user leaves
+// alone sends nothing, so the host keeps its text; a page changed elsewhere sends what was shown.
+TEST(LsTrendlinePages, ALongMultiplierIsShownAsItWouldBeSent) {
+  const std::string longText = "1.5 standard deviations of the fitted line";
+  const std::string shown = longText.substr(0, 31);
+  for (const char* name : {"LsPgDayLRC", "LsPgIntraLRC"}) {
+    for (bool change : {false, true}) {
+      SCOPED_TRACE(std::string(name) + (change ? " changed" : " left alone"));
+      const bool intra = std::string(name) == "LsPgIntraLRC";
+      SheetRun run;
+      run.Run(SheetXml(name, "<CLinRegChan>" + StudyXml(false, {intra ? Pt{4, 5} : Pt{-1, 5, kJune3}}) +
+                                 "<Multiplier>" + longText + "</Multiplier></CLinRegChan>"),
+              intra ? SyntheticChartData::Intraday() : SyntheticChartData::Daily(), [&](HeadlessSheetRunner& r) {
+                FakeControls& c = r.Tab(0);
+                EXPECT_EQ(c.GetDlgItemTextA(IDC_LS_LRC_MULTIPLIER, 64), shown);
+                if (change) c.Click(intra ? IDC_LS_INTRA_EXTEND_RIGHT : IDC_LS_DAY_EXTEND_RIGHT);
+                EXPECT_TRUE(r.Sheet().PressOk());
+              });
+      ASSERT_EQ(run.Events().size(), change ? 1u : 0u);
+      if (change) {
+        EXPECT_NE(run.Events()[0].find("<Multiplier>" + shown + "</Multiplier>"), std::string::npos);
+      }
+    }
+  }
 }
 
 TEST(LsTrendlinePages, ABadValueBeepsAndKeepsThePageWithoutAMessage) {
@@ -530,6 +589,100 @@ TEST(LsTrendlinePages, ApplySendsAChangedPageOnceAndAnUnchangedOneNever) {
               EXPECT_TRUE(r.Sheet().PressOk());
             });
   EXPECT_EQ(twice.owner.events.size(), 1u);
+}
+
+// --- the lock box, bad values, the vertex buttons ---
+
+// CLineStudy without PosLock.
+std::string StudyWithoutLock(const std::vector<Pt>& points) {
+  std::string study = StudyXml(false, points);
+  const std::string lock = "<PosLock>FALSE</PosLock>";
+  return study.erase(study.find(lock), lock.size());
+}
+
+TEST(LsTrendlinePages, TheLockBoxShowsOnlyWhenTheStudyHasALock) {
+  struct Case {
+    const char* name;
+    bool intra;
+  };
+  const Case cases[] = {{"LsPgDayTrend", false}, {"LsPgIntraTrend", true}, {"LsPgDayHorz", false},
+                        {"LsPgDayVert", false},  {"LsPgDayLRC", false},    {"LsPgIntraVWAP", true}};
+  for (const Case& c : cases) {
+    for (bool hasLock : {false, true}) {
+      SCOPED_TRACE(std::string(c.name) + (hasLock ? " with PosLock" : " without PosLock"));
+      const Pt point = c.intra ? Pt{4, 5} : Pt{-1, 5, kJune3};
+      SheetRun run;
+      run.Run(SheetXml(c.name, hasLock ? StudyXml(false, {point}) : StudyWithoutLock({point})),
+              c.intra ? SyntheticChartData::Intraday() : SyntheticChartData::Daily(), [&](HeadlessSheetRunner& r) {
+                EXPECT_EQ(r.Tab(0).IsDlgItemVisible(IDC_LS_POS_LOCK), hasLock);
+                if (!hasLock) {
+                  EXPECT_THROW(r.Tab(0).Click(IDC_LS_POS_LOCK), std::logic_error);
+                }
+                EXPECT_TRUE(r.Sheet().PressOk());
+              });
+      EXPECT_TRUE(run.owner.events.empty());
+    }
+  }
+  // A study without a lock still sends one, unlocked, when it changes.
+  SheetRun changed;
+  changed.Run(SheetXml("LsPgDayHorz", StudyWithoutLock({Pt{-1, 5, kJune3}})), SyntheticChartData::Daily(),
+              [](HeadlessSheetRunner& r) {
+                r.Tab(0).TypeText(IDC_LS_DAY_VALUE, "6");
+                EXPECT_TRUE(r.Sheet().PressOk());
+              });
+  EXPECT_EQ(changed.Events(),
+            std::vector<std::string>{EventXml("LsPgDayHorz", Trendline("CTrendline", false, {Pt{-1, 6, kJune3}}, ""))});
+}
+
+TEST(LsTrendlinePages, ABadValueOnADayPageBeepsAndKeepsThePageWithoutAMessage) {
+  struct Case {
+    const char* name;
+    const char* typed;
+  };
+  const Case cases[] = {{"LsPgDayTrend", "12,5"}, {"LsPgDayHorz", ".0"}, {"LsPgDayVWAP", "1.5x"}, {"LsPgDayTrend", ""}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(std::string(c.name) + " \"" + c.typed + "\"");
+    SheetRun run;
+    run.Run(SheetXml(c.name, "<VertexButtons Show=\"Yes\"/>" + StudyXml(false, {Pt{-1, 5, kJune3}, Pt{-1, 6, kJune20}})),
+            SyntheticChartData::Daily(), [&](HeadlessSheetRunner& r) {
+              FakeControls& tab = r.Tab(0);
+              tab.TypeText(IDC_LS_DAY_VALUE, c.typed);
+              tab.SetFocus(IDC_LS_POS_LOCK);
+              EXPECT_FALSE(r.Sheet().PressOk()) << "the page keeps the user";
+              EXPECT_EQ(tab.Beeps(), std::vector<unsigned>{orv::kBeepSimple});
+              EXPECT_EQ(tab.GetFocus(), IDC_LS_DAY_VALUE);
+              EXPECT_TRUE(tab.MessageBoxes().empty());
+              EXPECT_TRUE(r.Sheet().IsRunning());
+              tab.TypeText(IDC_LS_DAY_VALUE, "12.5");
+              EXPECT_TRUE(r.Sheet().PressOk());
+            });
+    ASSERT_EQ(run.Events().size(), 1u);
+    EXPECT_NE(run.Events()[0].find("<XY_yValue>12.500000</XY_yValue>"), std::string::npos) << run.Events()[0];
+  }
+}
+
+// Six vertex radios, as a template with more vertices would have them.
+void SixVertexLayout(FakeControls& c) {
+  lstest::LsPageLayout(IDD_LS_PG_DAY_TREND, c);
+  for (int id = IDC_LS_VERTEX_2; id <= IDC_LS_VERTEX_5; ++id) c.AddRadio(id, 1480);
+}
+
+TEST(LsTrendlinePages, HiddenVertexButtonsAreTheFirstFive) {
+  for (bool shown : {false, true}) {
+    SCOPED_TRACE(shown ? "shown" : "hidden");
+    SheetRun run;
+    run.runner.SetLayout(IDD_LS_PG_DAY_TREND, SixVertexLayout);
+    run.Run(SheetXml("LsPgDayTrend", shown ? "<VertexButtons Show=\"Yes\"/>" : ""), SyntheticChartData::Daily(),
+            [&](HeadlessSheetRunner& r) {
+              for (int id = IDC_LS_VERTEX_0; id <= IDC_LS_VERTEX_4; ++id) {
+                EXPECT_EQ(r.Tab(0).IsDlgItemVisible(id), shown) << id;
+                EXPECT_EQ(r.Tab(0).IsDlgItemEnabled(id), shown) << id;
+              }
+              // The sixth is left as the template has it.
+              EXPECT_TRUE(r.Tab(0).IsDlgItemVisible(IDC_LS_VERTEX_5));
+              EXPECT_TRUE(r.Tab(0).IsDlgItemEnabled(IDC_LS_VERTEX_5));
+            });
+  }
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "FakeSheetOwner.h"
+#include "LsTestXml.h"
 #include "WindowCapture.h"
 #include "dlgkit/win32/SheetRunnerWin32.h"
 #include "linestudies/LineStudiesRes.h"
@@ -195,6 +196,121 @@ TEST_F(LsPsWin32, RunnerRethrowsPageFailureAndKeepsEmptyCaption) {
   }
   EXPECT_TRUE(initialized);
   EXPECT_FALSE(user.CancelledLeftover());
+}
+
+// --- position pages on the platform's sheet ---
+
+XmlNode LoadSheet(const std::string& text) {
+  XmlNode document = XmlCreateDocument();
+  EXPECT_TRUE(XmlLoadString(document, text)) << text;
+  return XmlFindNode(document, "PropertySheet", true);
+}
+
+int Checked(HWND page, int id) { return static_cast<int>(::IsDlgButtonChecked(page, id)); }
+
+// The extend boxes keep 0, 1 and 2 through real buttons: a host's 2 comes back as 2 when the
+// user changes something else, and the user's clicks go round the three states. The channel's
+// long multiplier is shown as it will be sent, and the box takes no more.
+TEST_F(LsPsWin32, ExtendsOfTwoComeBackAsTwoAndTheMultiplierBoxHoldsWhatIsSent) {
+  const std::string multiplier = "1.5 standard deviations of the fitted line";
+  Sheet sheet(&owner);
+  sheet.InitFromXml(LoadSheet(
+      "<PropertySheet Name=\"LSPs\"><PropertyPageList><PropertyPage Name=\"LsPgIntraLRC\"><MaxPos>50</MaxPos>"
+      "<CLinRegChan>" + lstest::StudyXml(true, {lstest::Pt{4, 5}}) +
+      "<LSTrl_Extendpt1>2</LSTrl_Extendpt1><LSTrl_Extendpt2>1</LSTrl_Extendpt2><Multiplier>" + multiplier +
+      "</Multiplier></CLinRegChan></PropertyPage></PropertyPageList></PropertySheet>"));
+  std::vector<int> shown, clicked;
+  std::string shownMultiplier, typedMultiplier;
+  User user({[&](HWND sheetWindow, HWND page) {
+               if (const char* path = std::getenv("ORV_LS_SCREENSHOT_CHANNEL")) {
+                 std::wstring wide(path, path + std::strlen(path));
+                 EXPECT_EQ(orv::apps::CaptureWindowToPng(sheetWindow, wide), S_OK);
+               }
+               shown = {Checked(page, IDC_LS_INTRA_EXTEND_LEFT), Checked(page, IDC_LS_INTRA_EXTEND_RIGHT)};
+               shownMultiplier = TextOf(::GetDlgItem(page, IDC_LS_LRC_MULTIPLIER));
+               // Typing at the end of the full box changes nothing.
+               HWND box = ::GetDlgItem(page, IDC_LS_LRC_MULTIPLIER);
+               ::SendMessageA(box, EM_SETSEL, 31, 31);
+               ::SendMessageA(box, WM_CHAR, 'x', 1);
+               typedMultiplier = TextOf(box);
+               Click(page, IDC_LS_POS_LOCK);
+             },
+             [&](HWND sheetWindow, HWND page) {
+               ::SendMessageA(sheetWindow, PSM_PRESSBUTTON, PSBTN_APPLYNOW, 0);
+               // The right box goes from 1 through 2 to 0; the left one from 2 to 0 and 1.
+               Click(page, IDC_LS_INTRA_EXTEND_RIGHT);
+               clicked.push_back(Checked(page, IDC_LS_INTRA_EXTEND_RIGHT));
+               Click(page, IDC_LS_INTRA_EXTEND_RIGHT);
+               clicked.push_back(Checked(page, IDC_LS_INTRA_EXTEND_RIGHT));
+               Click(page, IDC_LS_INTRA_EXTEND_LEFT);
+               clicked.push_back(Checked(page, IDC_LS_INTRA_EXTEND_LEFT));
+               Click(page, IDC_LS_INTRA_EXTEND_LEFT);
+               clicked.push_back(Checked(page, IDC_LS_INTRA_EXTEND_LEFT));
+             },
+             [&](HWND sheetWindow, HWND) { ::SendMessageA(sheetWindow, PSM_PRESSBUTTON, PSBTN_OK, 0); }});
+  EXPECT_GT(sheet.DoModal(::GetActiveWindow()), 0);
+  EXPECT_FALSE(user.CancelledLeftover());
+  EXPECT_EQ(shown, (std::vector<int>{BST_INDETERMINATE, BST_CHECKED}));
+  EXPECT_EQ(shownMultiplier, multiplier.substr(0, 31));
+  EXPECT_EQ(typedMultiplier, shownMultiplier);
+  EXPECT_EQ(clicked, (std::vector<int>{BST_INDETERMINATE, BST_UNCHECKED, BST_UNCHECKED, BST_CHECKED}));
+  ASSERT_EQ(owner.events.size(), 2u);
+  const std::string sentMultiplier = "<Multiplier>" + multiplier.substr(0, 31) + "</Multiplier>";
+  const std::string applied = lstest::Compact(owner.events[0].value);
+  EXPECT_NE(applied.find("<PosLock>FALSE</PosLock>"), std::string::npos) << applied;
+  EXPECT_NE(applied.find("<LSTrl_Extendpt1>2</LSTrl_Extendpt1><LSTrl_Extendpt2>1</LSTrl_Extendpt2>" + sentMultiplier),
+            std::string::npos)
+      << applied;
+  const std::string closed = lstest::Compact(owner.events[1].value);
+  EXPECT_NE(closed.find("<LSTrl_Extendpt1>1</LSTrl_Extendpt1><LSTrl_Extendpt2>0</LSTrl_Extendpt2>"), std::string::npos)
+      << closed;
+}
+
+// One page object in two tabs of the real sheet: each tab's window has its own controls, the
+// object follows the tab the user is in, and a tab shown again shows what the other one entered.
+TEST_F(LsPsWin32, APageInTwoTabsKeepsWhatEachTabEntered) {
+  Sheet sheet(&owner);
+  sheet.InitFromXml(LoadSheet(
+      "<PropertySheet Name=\"LSPs\"><PropertyPageList><PropertyPage Name=\"LsPgIntraTrend\"><MaxPos>50</MaxPos>"
+      "<VertexButtons Show=\"Yes\"/><CTrendline>" + lstest::StudyXml(false, {lstest::Pt{4, 5}, lstest::Pt{9, 6}}) +
+      "</CTrendline></PropertyPage><PropertyPage Name=\"LsPgIntraTrend\"><VertexButtons Show=\"Yes\"/></PropertyPage>"
+      "</PropertyPageList></PropertySheet>"));
+  HWND firstPage = nullptr, secondPage = nullptr;
+  std::vector<std::string> seen;
+  auto value = [](HWND page) { return TextOf(::GetDlgItem(page, IDC_LS_INTRA_VALUE)); };
+  auto type = [](HWND page, const char* text) { ::SetDlgItemTextA(page, IDC_LS_INTRA_VALUE, text); };
+  User user({[&](HWND sheetWindow, HWND page) {
+               firstPage = page;
+               type(page, "7");
+               ::SendMessageA(sheetWindow, PSM_SETCURSEL, 1, 0);
+             },
+             [&](HWND, HWND page) {
+               secondPage = page;
+               seen.push_back(value(page));  // 7: the object's value
+               type(page, "8");
+               Click(page, IDC_LS_VERTEX_1);
+               seen.push_back(value(page));       // 6: the end vertex
+               seen.push_back(value(firstPage));  // 7: the hidden window is left alone
+               type(page, "9");
+             },
+             [&](HWND sheetWindow, HWND) { ::SendMessageA(sheetWindow, PSM_SETCURSEL, 0, 0); },
+             [&](HWND, HWND page) {
+               seen.push_back(page == firstPage ? "first" : "other");
+               seen.push_back(value(page));  // 9: the end vertex, as entered in the other tab
+               type(page, "10");
+               Click(page, IDC_LS_VERTEX_0);
+               seen.push_back(value(page));        // 8
+               seen.push_back(value(secondPage));  // 9
+             },
+             [&](HWND sheetWindow, HWND) { ::SendMessageA(sheetWindow, PSM_PRESSBUTTON, PSBTN_OK, 0); }});
+  EXPECT_GT(sheet.DoModal(::GetActiveWindow()), 0);
+  EXPECT_FALSE(user.CancelledLeftover());
+  EXPECT_NE(firstPage, secondPage);
+  EXPECT_EQ(seen, (std::vector<std::string>{"7", "6", "7", "first", "9", "8", "9"}));
+  ASSERT_EQ(owner.events.size(), 1u);
+  const std::string sent = lstest::Compact(owner.events[0].value);
+  EXPECT_NE(sent.find("<XY_xPos>4</XY_xPos><XY_yValue>8.000000</XY_yValue>"), std::string::npos) << sent;
+  EXPECT_NE(sent.find("<XY_xPos>9</XY_xPos><XY_yValue>10.000000</XY_yValue>"), std::string::npos) << sent;
 }
 
 }  // namespace

@@ -113,6 +113,8 @@ std::map<int, RcDialog> ReadDialogs() {
         c.kind = FakeControlKind::RadioButton;
       } else if (c.keyword == "AUTOCHECKBOX") {
         c.kind = FakeControlKind::CheckBox;
+      } else if (c.keyword == "AUTO3STATE") {
+        c.kind = FakeControlKind::ThreeStateCheckBox;
       }
       c.x = std::stoi(f[at]), c.y = std::stoi(f[at + 1]), c.w = std::stoi(f[at + 2]), c.h = std::stoi(f[at + 3]);
       // A drop-down list's height is its open list; closed it is one line.

@@ -90,7 +90,7 @@ void FakeControls::NotifyItemChanged(int id, int item, const FakeListViewRow& be
 void FakeControls::TypeText(int id, std::string_view text) {
   FakeControl& control = Reachable(id, "type");
   if (control.kind != FakeControlKind::Edit) throw std::logic_error("cannot type: " + Describe(id) + " is no edit");
-  control.text = std::string(text);
+  control.text = std::string(text.substr(0, control.textLimit ? control.textLimit : text.size()));
   SetFocus(id);
   Command(id, kEnChange);
 }
@@ -102,6 +102,9 @@ void FakeControls::Click(int id) {
       break;
     case FakeControlKind::CheckBox:
       control.check = control.check == kBstChecked ? kBstUnchecked : kBstChecked;
+      break;
+    case FakeControlKind::ThreeStateCheckBox:
+      control.check = control.check == kBstIndeterminate ? kBstUnchecked : control.check + 1;
       break;
     case FakeControlKind::RadioButton:
       for (auto& [otherId, other] : controls_) {
@@ -209,10 +212,23 @@ int FakeControls::IsDlgButtonChecked(int id) {
   return control ? control->check : kBstUnchecked;
 }
 
+bool FakeControls::LimitDlgItemText(int id, std::size_t maxChars) {
+  FakeControl* control = FindKind(id, FakeControlKind::Edit);
+  if (!control) return false;
+  control->textLimit = maxChars;
+  return true;
+}
+
 bool FakeControls::CheckDlgButton(int id, int state) {
   FakeControl* control = Find(id);
   if (!control) return false;
-  control->check = state;
+  // The platform's BM_SETCHECK: a state past what the box can show becomes the highest it can
+  // (read as unsigned, so a negative one too).
+  const unsigned highest = control->kind == FakeControlKind::ThreeStateCheckBox ? kBstIndeterminate
+                           : control->kind == FakeControlKind::CheckBox || control->kind == FakeControlKind::RadioButton
+                               ? kBstChecked
+                               : ~0u;
+  control->check = static_cast<unsigned>(state) > highest ? static_cast<int>(highest) : state;
   return true;
 }
 

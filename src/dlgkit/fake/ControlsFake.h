@@ -24,7 +24,12 @@ namespace orv {
 
 class Page;
 
-enum class FakeControlKind { Static, Edit, PushButton, CheckBox, RadioButton, ComboBox, ListBox, ListView, UpDown, DatePicker };
+// CheckBox is a two-state box (AUTOCHECKBOX), ThreeStateCheckBox one that also holds the
+// indeterminate state (AUTO3STATE).
+enum class FakeControlKind {
+  Static, Edit, PushButton, CheckBox, RadioButton, ComboBox, ListBox, ListView, UpDown, DatePicker,
+  ThreeStateCheckBox
+};
 
 struct FakeRect {
   int left = 0, top = 0, right = 0, bottom = 0;
@@ -45,6 +50,7 @@ struct FakeListViewRow {
 struct FakeControl {
   FakeControlKind kind = FakeControlKind::Static;
   std::string text;
+  std::size_t textLimit = 0;  // edits: what the user may enter at most (EM_LIMITTEXT); 0: no limit
   int check = kBstUnchecked;
   int radioGroup = 0;  // radio buttons with the same group exclude each other
   bool visible = true;
@@ -80,8 +86,11 @@ class FakeControls final : public Controls {
   void AttachPage(Page* page) { page_ = page; }
 
   // --- playing user input ---
-  void TypeText(int id, std::string_view text);      // replaces the text; EN_CHANGE
-  void Click(int id);                                // push button, check box (toggles), radio; BN_CLICKED
+  // Replaces the text, as far as the box's limit lets the user enter it; EN_CHANGE.
+  void TypeText(int id, std::string_view text);
+  // Push button, check box (toggles; a three-state box goes unchecked, checked, indeterminate
+  // and round again, as the platform's does), radio; BN_CLICKED.
+  void Click(int id);
   void SelectComboItem(int id, int index);           // CBN_SELCHANGE
   void SelectListItem(int id, int index);            // LBN_SELCHANGE
   void ClickListViewCheck(int id, int item);         // toggles the check; LVN_ITEMCHANGED
@@ -116,6 +125,7 @@ class FakeControls final : public Controls {
   bool SetDlgItemTextA(int id, std::string_view text) override;
   unsigned GetDlgItemInt(int id, bool* translated, bool isSigned) override;
   bool SetDlgItemInt(int id, unsigned value, bool isSigned) override;
+  bool LimitDlgItemText(int id, std::size_t maxChars) override;
   int IsDlgButtonChecked(int id) override;
   bool CheckDlgButton(int id, int state) override;
   bool HasDlgItem(int id) override;

@@ -82,6 +82,13 @@ bool Win32Controls::SetDlgItemInt(int id, unsigned value, bool isSigned) {
   return SetDlgItemTextA(id, FormatDlgItemInt(value, isSigned));
 }
 
+bool Win32Controls::LimitDlgItemText(int id, std::size_t maxChars) {
+  HWND control = ITEM(id);
+  if (!control) return false;
+  ::SendMessageA(control, EM_LIMITTEXT, static_cast<WPARAM>(maxChars), 0);
+  return true;
+}
+
 int Win32Controls::IsDlgButtonChecked(int id) {
   return ITEM(id) ? static_cast<int>(::IsDlgButtonChecked(Dlg(dialog_), id)) : kBstUnchecked;
 }

@@ -16,6 +16,7 @@ class Win32Controls final : public Controls {
   bool SetDlgItemTextA(int id, std::string_view text) override;
   unsigned GetDlgItemInt(int id, bool* translated, bool isSigned) override;
   bool SetDlgItemInt(int id, unsigned value, bool isSigned) override;
+  bool LimitDlgItemText(int id, std::size_t maxChars) override;
   int IsDlgButtonChecked(int id) override;
   bool CheckDlgButton(int id, int state) override;
   bool HasDlgItem(int id) override;

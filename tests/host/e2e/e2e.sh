@@ -64,8 +64,9 @@ orvhost: no sheet was shown, so the script did not run" --doc "$(doc no-sheet.xm
 case_ "straight from the DLL, by DoModal" 1 "$(applied TRUE FALSE)
 DoModal returned 1" --activate direct --no-chart-data --doc "$(doc advanced.xml)" --script "click 4646; ok"
 
-# A trendline study's Day page: a new value and Extend Right cleared, applied; then the End vertex
-# looked at and OK, which sends nothing more. The event carries the whole page as saved.
+# A trendline study's Day page: a new value and Extend Right cleared (a three-state box: checked,
+# indeterminate, cleared), applied; then the End vertex looked at and OK, which sends nothing more.
+# The event carries the whole page as saved.
 trendline_page() {
   printf '%s' 'StatusEvent: <PropertySheet Name="LSPs"><PropertyPageList><PropertyPage Name="LsPgDayTrend"><CTrendline><CLineStudy><PosLock>FALSE</PosLock><LS_CtrlPtList>'
   printf '%s' '<CXYCoord><XY_xPos>379</XY_xPos><XY_yValue>110.500000</XY_yValue><XY_lDate>45301</XY_lDate><XY_lTime>0</XY_lTime><XY_lSec>0</XY_lSec><XY_lSnap>-1</XY_lSnap></CXYCoord>'
@@ -73,7 +74,7 @@ trendline_page() {
   printf '%s' '</LS_CtrlPtList></CLineStudy><LSTrl_Extendpt1>0</LSTrl_Extendpt1><LSTrl_Extendpt2>0</LSTrl_Extendpt2></CTrendline></PropertyPage></PropertyPageList></PropertySheet>'
 }
 case_ "trendline Day page edited and applied: the page as saved, once" 1 "$(trendline_page)
-DoModal returned 1" --doc "$(doc trendline.xml)" --script "text 1463 110.5; click 2274; apply; click 1481; ok"
+DoModal returned 1" --doc "$(doc trendline.xml)" --script "text 1463 110.5; click 2274; click 2274; apply; click 1481; ok"
 
 # Without chart data no date has a bar: OK brings the program's holiday box and the sheet stays.
 case_ "Day page without chart data: the holiday box refuses OK" 3 "DoModal returned 0
