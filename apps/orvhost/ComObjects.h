@@ -9,7 +9,7 @@
 #include <ocidl.h>
 
 #include "OrvChartDlgs_h.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
 
 #include <cstdio>
 #include <string>

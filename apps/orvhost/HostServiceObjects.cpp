@@ -2,6 +2,7 @@
 
 #include "ComObjects.h"
 
+#include "com/WideText.h"
 #include "xml/Xml.h"
 #include "xml/msxml/MsxmlGuids.h"
 
@@ -17,14 +18,7 @@ std::wstring Upper(std::wstring text)
     return text;
 }
 
-std::wstring FromBstr(BSTR text) { return text != nullptr ? std::wstring(text, SysStringLen(text)) : std::wstring(); }
-
 std::string Printable(const std::wstring& text) { return EscapeEventText(text.c_str(), static_cast<UINT>(text.size())); }
-
-Bstr MakeBstr(const std::wstring& text)
-{
-    return Bstr::Attach(SysAllocStringLen(text.data(), static_cast<UINT>(text.size())));
-}
 
 // The node that `xpath` selects, or null; a malformed XPath is the caller's error.
 HRESULT SelectNode(IXMLDOMDocument2* document, BSTR xpath, ComPtr<IXMLDOMNode>& node)
@@ -40,14 +34,14 @@ bool NodeValue(IXMLDOMNode* node, BSTR attribute, std::wstring& value)
     if (SysStringLen(attribute) == 0) {
         Bstr text;
         if (FAILED(node->get_text(text.put()))) return false;
-        value = FromBstr(text.get());
+        value = WideFromBstr(text.get());
         return true;
     }
     ComPtr<IXMLDOMElement> element;
     if (FAILED(node->QueryInterface(msxml::kIID_IXMLDOMElement, reinterpret_cast<void**>(element.put())))) return false;
     Variant answer;
     if (element->getAttribute(attribute, answer.put()) != S_OK || answer.get().vt != VT_BSTR) return false;
-    value = FromBstr(answer.get().bstrVal);
+    value = WideFromBstr(answer.get().bstrVal);
     return true;
 }
 
@@ -69,7 +63,7 @@ std::wstring NodeName(IXMLDOMNode* node)
 {
     Bstr name;
     if (FAILED(node->get_nodeName(name.put()))) return {};
-    return FromBstr(name.get());
+    return WideFromBstr(name.get());
 }
 
 std::wstring Attribute(IXMLDOMNode* node, const wchar_t* name)
@@ -144,7 +138,7 @@ public:
         if (value == nullptr || result == nullptr) return E_POINTER;
         VariantInit(value);
         std::wstring text;
-        if (!settings_->Value(FromBstr(section), FromBstr(key), text)) {
+        if (!settings_->Value(WideFromBstr(section), WideFromBstr(key), text)) {
             *result = kNotFound;
             return S_OK;
         }
@@ -157,9 +151,9 @@ public:
     HRESULT STDMETHODCALLTYPE SetValue(BSTR section, BSTR key, LONG value, LONG kind, LONG* result) override
     {
         if (result == nullptr) return E_POINTER;
-        settings_->SetValue(FromBstr(section), FromBstr(key), std::to_wstring(value));
-        std::fprintf(settings_->Output(), "SetValue: %s %s %ld %ld\n", Printable(FromBstr(section)).c_str(),
-                     Printable(FromBstr(key)).c_str(), static_cast<long>(value), static_cast<long>(kind));
+        settings_->SetValue(WideFromBstr(section), WideFromBstr(key), std::to_wstring(value));
+        std::fprintf(settings_->Output(), "SetValue: %s %s %ld %ld\n", Printable(WideFromBstr(section)).c_str(),
+                     Printable(WideFromBstr(key)).c_str(), static_cast<long>(value), static_cast<long>(kind));
         std::fflush(settings_->Output());
         *result = kFound;
         return S_OK;
@@ -183,7 +177,7 @@ public:
         *value = nullptr;
         *result = kNotFound;
         std::wstring text;
-        if (IXMLDOMDocument2* doc = settings_->Document(FromBstr(document))) {
+        if (IXMLDOMDocument2* doc = settings_->Document(WideFromBstr(document))) {
             ComPtr<IXMLDOMNode> node;
             const HRESULT hr = SelectNode(doc, xpath, node);
             if (FAILED(hr)) return hr;
@@ -198,7 +192,7 @@ public:
         if (node == nullptr || result == nullptr) return E_POINTER;
         *node = nullptr;
         *result = kNotFound;
-        IXMLDOMDocument2* doc = settings_->Document(FromBstr(document));
+        IXMLDOMDocument2* doc = settings_->Document(WideFromBstr(document));
         if (doc == nullptr) return S_OK;
         ComPtr<IXMLDOMNode> found;
         const HRESULT hr = SelectNode(doc, xpath, found);
@@ -216,7 +210,7 @@ public:
     HRESULT STDMETHODCALLTYPE ShowHelp(BSTR book, LONG topicId, LONG flags, LONG* result) override
     {
         if (result == nullptr) return E_POINTER;
-        std::fprintf(settings_->Output(), "ShowHelp: %s %ld %ld\n", Printable(FromBstr(book)).c_str(),
+        std::fprintf(settings_->Output(), "ShowHelp: %s %ld %ld\n", Printable(WideFromBstr(book)).c_str(),
                      static_cast<long>(topicId), static_cast<long>(flags));
         std::fflush(settings_->Output());
         *result = 0;

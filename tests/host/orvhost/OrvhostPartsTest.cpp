@@ -4,6 +4,7 @@
 #include "Options.h"
 #include "Script.h"
 #include "SyntheticChart.h"
+#include "com/WideText.h"
 
 #include <gtest/gtest.h>
 
@@ -228,9 +229,8 @@ TEST(OrvhostEvents, EscapingKeepsOneEventOnOneLineAndReadable)
 // Fires a StatusEvent into the sink as the component does: five positional arguments, last first.
 HRESULT Fire(IDispatch* sink, DISPID id, const wchar_t* value, LONG& answer, UINT count = 5)
 {
-    Bstr text, extra;
-    *text.put() = SysAllocString(value);
-    *extra.put() = SysAllocString(L"");
+    Bstr text = MakeBstr(value);
+    Bstr extra = MakeBstr(L"");
     VARIANT args[5];
     for (VARIANT& v : args) VariantInit(&v);
     args[4].vt = VT_I4; args[4].lVal = 0;
