@@ -10,53 +10,35 @@
 namespace orv {
 namespace {
 
-struct ReleaseDeleter {
-  void operator()(IUnknown* unknown) const { unknown->Release(); }
-};
-template <class I>
-using ComRef = std::unique_ptr<I, ReleaseDeleter>;
-
-// An owned VARIANT out parameter.
-class OwnedVariant {
- public:
-  OwnedVariant() { ::VariantInit(&value_); }
-  OwnedVariant(const OwnedVariant&) = delete;
-  OwnedVariant& operator=(const OwnedVariant&) = delete;
-  ~OwnedVariant() { ::VariantClear(&value_); }
-  VARIANT* get() { return &value_; }
-
- private:
-  VARIANT value_;
-};
-
 constexpr char kSettingsContext[] = "ISettingsService";
 
 template <class I>
-ComRef<I> Create(const CLSID& clsid, const IID& iid) {
-  void* object = nullptr;
-  if (FAILED(::CoCreateInstance(clsid, nullptr, kHostServiceContext, iid, &object)) || !object) return nullptr;
-  return ComRef<I>(static_cast<I*>(object));
+ComPtr<I> Create(const CLSID& clsid, const IID& iid) {
+  ComPtr<I> object;
+  if (FAILED(::CoCreateInstance(clsid, nullptr, kHostServiceContext, iid, reinterpret_cast<void**>(object.put()))))
+    return nullptr;
+  return object;
 }
 
 class ComSettingsService final : public SettingsService {
  public:
-  explicit ComSettingsService(ComRef<ISettingsService> service) : service_(std::move(service)) {}
+  explicit ComSettingsService(ComPtr<ISettingsService> service) : service_(std::move(service)) {}
   void GetValue(const std::string& section, const std::string& key, std::string& value,
                 std::int32_t& result) override {
     Bstr sectionText = MakeBstr(section);
     Bstr keyText = MakeBstr(key);
-    OwnedVariant answer;
+    Variant answer;
     long status = 0;
-    XmlCheck(service_->GetValue(sectionText.get(), keyText.get(), answer.get(), &status), kSettingsContext);
+    XmlCheck(service_->GetValue(sectionText.get(), keyText.get(), answer.put(), &status), kSettingsContext);
     result = status;
     // Whatever type the host answers with, the program takes its text; empty and null are none.
-    if (answer.get()->vt == VT_EMPTY || answer.get()->vt == VT_NULL) {
+    if (answer.get().vt == VT_EMPTY || answer.get().vt == VT_NULL) {
       value.clear();
       return;
     }
-    OwnedVariant text;
-    XmlCheck(::VariantChangeType(text.get(), answer.get(), 0, VT_BSTR), kSettingsContext);
-    value = NarrowFromBstr(text.get()->bstrVal);
+    Variant text;
+    XmlCheck(::VariantChangeType(text.put(), &answer.get(), 0, VT_BSTR), kSettingsContext);
+    value = NarrowFromBstr(text.get().bstrVal);
   }
   void SetValue(const std::string& section, const std::string& key, std::int32_t value, std::int32_t kind,
                 std::int32_t& result) override {
@@ -77,11 +59,10 @@ class ComSettingsService final : public SettingsService {
     Bstr documentText = MakeBstr(document);
     Bstr xpathText = MakeBstr(xpath);
     Bstr attributeText = MakeBstr(attribute);
-    BSTR answer = nullptr;
+    Bstr owned;  // freed also when the call failed but gave a text
     long status = 0;
     const HRESULT hr = service_->GetDocumentValue(documentText.get(), xpathText.get(), attributeText.get(), kind,
-                                                  &answer, &status);
-    Bstr owned = Bstr::Attach(answer);  // freed also when the call failed but gave a text
+                                                  owned.put(), &status);
     XmlCheck(hr, kSettingsContext);
     value = NarrowFromBstr(owned.get());
     result = status;
@@ -90,10 +71,9 @@ class ComSettingsService final : public SettingsService {
                        std::int32_t& result) override {
     Bstr documentText = MakeBstr(document);
     Bstr xpathText = MakeBstr(xpath);
-    IUnknown* answer = nullptr;
+    ComPtr<IUnknown> owned;
     long status = 0;
-    const HRESULT hr = service_->GetDocumentNode(documentText.get(), xpathText.get(), &answer, &status);
-    ComRef<IUnknown> owned(answer);
+    const HRESULT hr = service_->GetDocumentNode(documentText.get(), xpathText.get(), owned.put(), &status);
     XmlCheck(hr, kSettingsContext);
     // Anything but a DOM node counts as no node.
     node = XmlWrapUnknown(owned.get());
@@ -101,12 +81,12 @@ class ComSettingsService final : public SettingsService {
   }
 
  private:
-  ComRef<ISettingsService> service_;
+  ComPtr<ISettingsService> service_;
 };
 
 class ComHelpService final : public HelpService {
  public:
-  explicit ComHelpService(ComRef<IHelpService> service) : service_(std::move(service)) {}
+  explicit ComHelpService(ComPtr<IHelpService> service) : service_(std::move(service)) {}
   void ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags, std::int32_t& result) override {
     Bstr bookText = MakeBstr(book);
     long answer = 0;
@@ -115,7 +95,7 @@ class ComHelpService final : public HelpService {
   }
 
  private:
-  ComRef<IHelpService> service_;
+  ComPtr<IHelpService> service_;
 };
 
 class ComHostServices final : public HostServices {
