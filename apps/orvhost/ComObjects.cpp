@@ -7,25 +7,14 @@
 namespace orv::host_app {
 namespace {
 
-class ChartData final : public IChartData {
+class ChartData final : public ComObject<ChartData, IChartData> {
 public:
     explicit ChartData(SyntheticChart chart) : chart_(std::move(chart)) {}
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override
+    static std::span<const ComInterfaceEntry> Interfaces()
     {
-        if (object == nullptr) return E_POINTER;
-        *object = nullptr;
-        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IChartData)) return E_NOINTERFACE;
-        *object = static_cast<IChartData*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = --refs_;
-        if (left == 0) delete this;
-        return left;
+        static constexpr ComInterfaceEntry table[] = {ComInterface<ChartData, IChartData>(IID_IChartData)};
+        return table;
     }
 
     HRESULT STDMETHODCALLTYPE GetBarCount(LONG* count) override
@@ -75,8 +64,6 @@ public:
     }
 
 private:
-    ~ChartData() = default;
-    ULONG refs_ = 1;
     SyntheticChart chart_;
 };
 
@@ -103,7 +90,7 @@ void AppendUtf8(std::string& out, unsigned code)
 
 ComPtr<IChartData> MakeChartData(SyntheticChart chart)
 {
-    return ComPtr<IChartData>::Attach(new ChartData(std::move(chart)));
+    return ChartData::Make(std::move(chart));
 }
 
 std::string EscapeEventText(const wchar_t* text, UINT length)
@@ -132,30 +119,13 @@ std::string EscapeEventText(const wchar_t* text, UINT length)
     return out;
 }
 
-ComPtr<StatusEventPrinter> StatusEventPrinter::Make(std::FILE* out)
+std::span<const ComInterfaceEntry> StatusEventPrinter::Interfaces()
 {
-    return ComPtr<StatusEventPrinter>::Attach(new StatusEventPrinter(out));
-}
-
-HRESULT StatusEventPrinter::QueryInterface(REFIID iid, void** object)
-{
-    if (object == nullptr) return E_POINTER;
-    *object = nullptr;
-    if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IDispatch) && !IsEqualIID(iid, DIID__IChartPagesEvents)) {
-        return E_NOINTERFACE;
-    }
-    *object = static_cast<IDispatch*>(this);
-    AddRef();
-    return S_OK;
-}
-
-ULONG StatusEventPrinter::AddRef() { return ++refs_; }
-
-ULONG StatusEventPrinter::Release()
-{
-    const ULONG left = --refs_;
-    if (left == 0) delete this;
-    return left;
+    static constexpr ComInterfaceEntry table[] = {
+        ComInterface<StatusEventPrinter, IDispatch>(IID_IDispatch),
+        ComInterface<StatusEventPrinter, IDispatch>(DIID__IChartPagesEvents),
+    };
+    return table;
 }
 
 HRESULT StatusEventPrinter::GetTypeInfoCount(UINT* count)

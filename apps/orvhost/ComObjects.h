@@ -9,9 +9,11 @@
 #include <ocidl.h>
 
 #include "OrvChartDlgs_h.h"
+#include "com/ComObject.h"
 #include "com/ComPtr.h"
 
 #include <cstdio>
+#include <span>
 #include <string>
 
 namespace orv::host_app {
@@ -25,16 +27,14 @@ ComPtr<IChartData> MakeChartData(SyntheticChart chart);
 std::string EscapeEventText(const wchar_t* text, UINT length);
 
 // Prints "StatusEvent: <pValue escaped>" for every StatusEvent and answers plReturn with 0.
-class StatusEventPrinter : public IDispatch {
+class StatusEventPrinter final : public ComObject<StatusEventPrinter, IDispatch> {
 public:
-    // Lines go to `out` (stdout in the program), flushed after each.
-    static ComPtr<StatusEventPrinter> Make(std::FILE* out);
+    // Lines go to `out` (stdout in the program), flushed after each: StatusEventPrinter::Make(out).
+    explicit StatusEventPrinter(std::FILE* out) : out_(out) {}
+    static std::span<const ComInterfaceEntry> Interfaces();
 
     int EventCount() const { return events_; }
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override;
-    ULONG STDMETHODCALLTYPE Release() override;
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override;
@@ -42,10 +42,6 @@ public:
                                      EXCEPINFO*, UINT* argError) override;
 
 private:
-    explicit StatusEventPrinter(std::FILE* out) : out_(out) {}
-    virtual ~StatusEventPrinter() = default;
-
-    ULONG refs_ = 1;
     std::FILE* out_;
     int events_ = 0;
 };
