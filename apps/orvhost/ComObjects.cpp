@@ -2,14 +2,16 @@
 
 #include "xml/StrFormat.h"
 
+#include <cstdint>
 #include <utility>
 
 namespace orv::host_app {
 namespace {
 
+// IChartData over the synthetic chart: statuses and out parameters as a host gives them.
 class ChartData final : public ComObject<ChartData, IChartData> {
 public:
-    explicit ChartData(SyntheticChart chart) : chart_(std::move(chart)) {}
+    explicit ChartData(std::shared_ptr<SyntheticChartData> chart) : chart_(std::move(chart)) {}
 
     static std::span<const ComInterfaceEntry> Interfaces()
     {
@@ -20,51 +22,53 @@ public:
     HRESULT STDMETHODCALLTYPE GetBarCount(LONG* count) override
     {
         if (count == nullptr) return E_INVALIDARG;
-        *count = chart_.BarCount();
+        *count = chart_->LastPos() + 1;
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetValue(LONG field, LONG barPos, double* value) override
     {
         if (value == nullptr) return E_INVALIDARG;
-        double v = 0;
-        if (!chart_.Value(field, barPos, v)) return E_INVALIDARG;
-        *value = v;
-        return S_OK;
+        return chart_->GetValue(field, barPos, *value);
     }
     HRESULT STDMETHODCALLTYPE GetTimeKind(LONG* kind) override
     {
         if (kind == nullptr) return E_INVALIDARG;
-        *kind = chart_.IsIntraday() ? 1 : 0;
-        return S_OK;
+        std::int32_t answer = 0;
+        const HRESULT hr = chart_->GetTimeKind(answer);
+        *kind = answer;
+        return hr;
     }
     HRESULT STDMETHODCALLTYPE DateToPos(LONG date, LONG time, LONG, LONG, LONG* exact, LONG* barPos) override
     {
         if (barPos == nullptr) return E_INVALIDARG;
-        bool isExact = false;
-        const int position = chart_.FindBar(date, time, isExact);
+        std::int32_t isExact = 1, position = -1;
+        const HRESULT hr = chart_->DateToPos(date, time, &isExact, position);
         *barPos = position;
-        if (exact != nullptr) *exact = isExact ? 1 : 0;
-        return position < 0 ? E_FAIL : S_OK;
+        if (exact != nullptr) *exact = isExact;
+        return hr;
     }
     HRESULT STDMETHODCALLTYPE PosToDate(LONG barPos, LONG* date, LONG* time, LONG* seconds, LONG, LONG) override
     {
-        const Bar* bar = chart_.BarAt(barPos);
-        if (bar == nullptr || date == nullptr) return E_INVALIDARG;
-        *date = bar->date;
-        if (time != nullptr) *time = bar->minutes;
-        if (seconds != nullptr) *seconds = bar->seconds;
+        if (date == nullptr) return E_INVALIDARG;
+        std::int32_t d = 0, t = 0, s = 0;
+        const HRESULT hr = chart_->PosToDate(barPos, d, t, s);
+        if (FAILED(hr)) return hr;
+        *date = d;
+        if (time != nullptr) *time = t;
+        if (seconds != nullptr) *seconds = s;
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE PosToDateOnly(LONG barPos, LONG* date, LONG) override
     {
-        const Bar* bar = chart_.BarAt(barPos);
-        if (bar == nullptr || date == nullptr) return E_INVALIDARG;
-        *date = bar->date;
-        return S_OK;
+        if (date == nullptr) return E_INVALIDARG;
+        std::int32_t d = 0;
+        const HRESULT hr = chart_->PosToDateOnly(barPos, d);
+        if (SUCCEEDED(hr)) *date = d;
+        return hr;
     }
 
 private:
-    SyntheticChart chart_;
+    std::shared_ptr<SyntheticChartData> chart_;
 };
 
 void AppendUtf8(std::string& out, unsigned code)
@@ -88,9 +92,14 @@ void AppendUtf8(std::string& out, unsigned code)
 
 } // namespace
 
-ComPtr<IChartData> MakeChartData(SyntheticChart chart)
+ComPtr<IChartData> MakeChartData(std::shared_ptr<SyntheticChartData> chart)
 {
     return ChartData::Make(std::move(chart));
+}
+
+std::shared_ptr<SyntheticChartData> HostChart(bool intraday)
+{
+    return intraday ? SyntheticChartData::Intraday(10, 2024, 6, 28) : SyntheticChartData::Daily(500, 2024, 6, 28);
 }
 
 std::string EscapeEventText(const wchar_t* text, UINT length)

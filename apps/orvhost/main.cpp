@@ -8,7 +8,6 @@
 #include "Options.h"
 #include "Script.h"
 #include "ScriptDriver.h"
-#include "SyntheticChart.h"
 #include "resource.h"
 
 #include "xml/StrFormat.h"
@@ -26,8 +25,8 @@
 #include <exception>
 #include <fstream>
 #include <iterator>
-#include <optional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -248,7 +247,7 @@ int Run(const std::vector<std::wstring>& args)
 
     ComPtr<IChartData> chartData;
     if (!options.noChartData) {
-        chartData = MakeChartData(options.intraday ? SyntheticChart::Intraday() : SyntheticChart::Daily());
+        chartData = MakeChartData(HostChart(options.intraday));
     }
 
     ScriptDriver driver(std::move(steps));

@@ -5,6 +5,7 @@ list(APPEND ORV_DLGKIT_TEST_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/HeadlessRunnerTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBoxLayoutTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsStoreTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SyntheticChartDataTest.cpp
 )
 list(APPEND ORV_DLGKIT_WIN32_TEST_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/DataExchangeWin32Test.cpp
