@@ -20,4 +20,5 @@ list(APPEND ORV_DLGKIT_NATIVE_SOURCES
 list(APPEND ORV_DLGKIT_FAKE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/fake/ControlsFake.cpp
   ${CMAKE_CURRENT_LIST_DIR}/fake/HeadlessRunner.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/fake/TemplateLayout.cpp
 )

@@ -24,7 +24,9 @@ namespace orv {
 
 class Page;
 
-enum class FakeControlKind { Static, Edit, PushButton, CheckBox, RadioButton, ComboBox, ListBox, ListView, UpDown, DatePicker };
+enum class FakeControlKind {
+  Static, Edit, PushButton, CheckBox, RadioButton, ComboBox, ListBox, ListView, UpDown, DatePicker, GroupBox
+};
 
 struct FakeRect {
   int left = 0, top = 0, right = 0, bottom = 0;
@@ -47,6 +49,10 @@ struct FakeControl {
   std::string text;
   int check = kBstUnchecked;
   int radioGroup = 0;  // radio buttons with the same group exclude each other
+  bool threeState = false;  // a check box that goes checked, indeterminate, unchecked
+  bool automatic = true;    // a check box or radio button that checks itself when clicked
+  bool readOnly = false;    // an edit the user can't type into
+  bool digitsOnly = false;  // an edit that takes digits only
   bool visible = true;
   bool enabled = true;
   FakeRect rect;
