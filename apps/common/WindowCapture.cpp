@@ -2,28 +2,13 @@
 
 #include <wincodec.h>
 
+#include "com/ComPtr.h"
+
 #include <memory>
 #include <type_traits>
 
 namespace orv::apps {
 namespace {
-
-struct ComRelease {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <typename T> using ComPtr = std::unique_ptr<T, ComRelease>;
-
-// Fills a ComPtr through the T** out parameter that COM calls take.
-template <typename T> class OutPtr {
-public:
-    explicit OutPtr(ComPtr<T>& target) : target_(target) {}
-    ~OutPtr() { target_.reset(raw_); }
-    operator T**() { return &raw_; }
-    void** AsVoid() { return reinterpret_cast<void**>(&raw_); }
-private:
-    ComPtr<T>& target_;
-    T* raw_ = nullptr;
-};
 
 // A window's DC and the window it belongs to, released together.
 class WindowDc {
@@ -109,25 +94,25 @@ HRESULT WritePng(const Bitmap& bitmap, const std::wstring& path)
 
     ComPtr<IWICImagingFactory> factory;
     HRESULT hr = CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                                  IID_IWICImagingFactory, OutPtr(factory).AsVoid());
+                                  IID_IWICImagingFactory, reinterpret_cast<void**>(factory.put()));
     if (FAILED(hr))
         return hr;
 
     ComPtr<IWICStream> stream;
-    if (FAILED(hr = factory->CreateStream(OutPtr(stream))))
+    if (FAILED(hr = factory->CreateStream(stream.put())))
         return hr;
     if (FAILED(hr = stream->InitializeFromFilename(path.c_str(), GENERIC_WRITE)))
         return hr;
 
     ComPtr<IWICBitmapEncoder> encoder;
-    if (FAILED(hr = factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, OutPtr(encoder))))
+    if (FAILED(hr = factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.put())))
         return hr;
     if (FAILED(hr = encoder->Initialize(stream.get(), WICBitmapEncoderNoCache)))
         return hr;
 
     ComPtr<IWICBitmapFrameEncode> frame;
     ComPtr<IPropertyBag2> options;
-    if (FAILED(hr = encoder->CreateNewFrame(OutPtr(frame), OutPtr(options))))
+    if (FAILED(hr = encoder->CreateNewFrame(frame.put(), options.put())))
         return hr;
     if (FAILED(hr = frame->Initialize(options.get())))
         return hr;

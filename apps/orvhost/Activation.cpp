@@ -1,5 +1,6 @@
 #include "Activation.h"
 
+#include "com/WideText.h"
 #include "xml/StrFormat.h"
 
 #include <vector>
@@ -9,18 +10,6 @@ namespace {
 
 // The application manifest that names the component's assembly, carried by orvhost.exe.
 constexpr WORD kComponentManifestResource = 2;
-
-std::string Narrow(const std::wstring& text)
-{
-    const int length = WideCharToMultiByte(CP_UTF8, 0, text.c_str(), static_cast<int>(text.size()), nullptr, 0,
-                                           nullptr, nullptr);
-    std::string out(static_cast<std::size_t>(length > 0 ? length : 0), '\0');
-    if (length > 0) {
-        WideCharToMultiByte(CP_UTF8, 0, text.c_str(), static_cast<int>(text.size()), out.data(), length, nullptr,
-                            nullptr);
-    }
-    return out;
-}
 
 std::string Describe(HRESULT hr)
 {
@@ -60,14 +49,14 @@ bool ComponentInstance::Create(const Options& options, std::string& error)
     if (options.activation == Activation::Direct) {
         const std::wstring dll = options.dllPath.empty() ? ProgramFolder() + L"OrvChartDlgs.dll" : options.dllPath;
         if (!library_.Load(dll)) {
-            error = StrFormat("cannot load %s (error %lu)", Narrow(dll).c_str(), GetLastError());
+            error = StrFormat("cannot load %s (error %lu)", Narrow(dll, CP_UTF8).c_str(), GetLastError());
             return false;
         }
         using GetClassObjectFn = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
         const auto getClassObject = reinterpret_cast<GetClassObjectFn>(
             reinterpret_cast<void*>(GetProcAddress(library_.get(), "DllGetClassObject")));
         if (getClassObject == nullptr) {
-            error = StrFormat("%s exports no DllGetClassObject", Narrow(dll).c_str());
+            error = StrFormat("%s exports no DllGetClassObject", Narrow(dll, CP_UTF8).c_str());
             return false;
         }
         ComPtr<IClassFactory> factory;
@@ -107,7 +96,7 @@ bool ComponentInstance::Create(const Options& options, std::string& error)
                         ? StrFormat("cannot make the activation context from orvhost's manifest (error %lu): is "
                                     "the component's assembly manifest beside orvhost.exe?", code)
                         : StrFormat("cannot make the activation context from %s (error %lu)",
-                                    Narrow(options.manifestPath).c_str(), code);
+                                    Narrow(options.manifestPath, CP_UTF8).c_str(), code);
             return false;
         }
         if (!activation_.Activate(context_.get())) {
@@ -119,13 +108,13 @@ bool ComponentInstance::Create(const Options& options, std::string& error)
     CLSID clsid{};
     HRESULT hr = ClassIdOf(options, clsid);
     if (FAILED(hr)) {
-        error = StrFormat("no class for the ProgID %s: %s", Narrow(options.progId).c_str(), Describe(hr).c_str());
+        error = StrFormat("no class for the ProgID %s: %s", Narrow(options.progId, CP_UTF8).c_str(), Describe(hr).c_str());
         return false;
     }
     hr = CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IChartPages, reinterpret_cast<void**>(pages_.put()));
     if (FAILED(hr)) {
         error = StrFormat("CoCreateInstance(%s) failed: %s%s",
-                          options.progId.empty() ? "ChartPages" : Narrow(options.progId).c_str(), Describe(hr).c_str(),
+                          options.progId.empty() ? "ChartPages" : Narrow(options.progId, CP_UTF8).c_str(), Describe(hr).c_str(),
                           hr == REGDB_E_CLASSNOTREG ? " (class not registered)" : "");
         return false;
     }

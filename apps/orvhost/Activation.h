@@ -7,7 +7,7 @@
 #include <windows.h>
 
 #include "OrvChartDlgs_h.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
 
 #include <string>
 #include <utility>

@@ -2,82 +2,73 @@
 
 #include "xml/StrFormat.h"
 
+#include <cstdint>
 #include <utility>
 
 namespace orv::host_app {
 namespace {
 
-class ChartData final : public IChartData {
+// IChartData over the synthetic chart: statuses and out parameters as a host gives them.
+class ChartData final : public ComObject<ChartData, IChartData> {
 public:
-    explicit ChartData(SyntheticChart chart) : chart_(std::move(chart)) {}
+    explicit ChartData(std::shared_ptr<SyntheticChartData> chart) : chart_(std::move(chart)) {}
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override
+    static std::span<const ComInterfaceEntry> Interfaces()
     {
-        if (object == nullptr) return E_POINTER;
-        *object = nullptr;
-        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IChartData)) return E_NOINTERFACE;
-        *object = static_cast<IChartData*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = --refs_;
-        if (left == 0) delete this;
-        return left;
+        static constexpr ComInterfaceEntry table[] = {ComInterface<ChartData, IChartData>(IID_IChartData)};
+        return table;
     }
 
     HRESULT STDMETHODCALLTYPE GetBarCount(LONG* count) override
     {
         if (count == nullptr) return E_INVALIDARG;
-        *count = chart_.BarCount();
+        *count = chart_->LastPos() + 1;
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetValue(LONG field, LONG barPos, double* value) override
     {
         if (value == nullptr) return E_INVALIDARG;
-        double v = 0;
-        if (!chart_.Value(field, barPos, v)) return E_INVALIDARG;
-        *value = v;
-        return S_OK;
+        return chart_->GetValue(field, barPos, *value);
     }
     HRESULT STDMETHODCALLTYPE GetTimeKind(LONG* kind) override
     {
         if (kind == nullptr) return E_INVALIDARG;
-        *kind = chart_.IsIntraday() ? 1 : 0;
-        return S_OK;
+        std::int32_t answer = 0;
+        const HRESULT hr = chart_->GetTimeKind(answer);
+        *kind = answer;
+        return hr;
     }
     HRESULT STDMETHODCALLTYPE DateToPos(LONG date, LONG time, LONG, LONG, LONG* exact, LONG* barPos) override
     {
         if (barPos == nullptr) return E_INVALIDARG;
-        bool isExact = false;
-        const int position = chart_.FindBar(date, time, isExact);
+        std::int32_t isExact = 1, position = -1;
+        const HRESULT hr = chart_->DateToPos(date, time, &isExact, position);
         *barPos = position;
-        if (exact != nullptr) *exact = isExact ? 1 : 0;
-        return position < 0 ? E_FAIL : S_OK;
+        if (exact != nullptr) *exact = isExact;
+        return hr;
     }
     HRESULT STDMETHODCALLTYPE PosToDate(LONG barPos, LONG* date, LONG* time, LONG* seconds, LONG, LONG) override
     {
-        const Bar* bar = chart_.BarAt(barPos);
-        if (bar == nullptr || date == nullptr) return E_INVALIDARG;
-        *date = bar->date;
-        if (time != nullptr) *time = bar->minutes;
-        if (seconds != nullptr) *seconds = bar->seconds;
+        if (date == nullptr) return E_INVALIDARG;
+        std::int32_t d = 0, t = 0, s = 0;
+        const HRESULT hr = chart_->PosToDate(barPos, d, t, s);
+        if (FAILED(hr)) return hr;
+        *date = d;
+        if (time != nullptr) *time = t;
+        if (seconds != nullptr) *seconds = s;
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE PosToDateOnly(LONG barPos, LONG* date, LONG) override
     {
-        const Bar* bar = chart_.BarAt(barPos);
-        if (bar == nullptr || date == nullptr) return E_INVALIDARG;
-        *date = bar->date;
-        return S_OK;
+        if (date == nullptr) return E_INVALIDARG;
+        std::int32_t d = 0;
+        const HRESULT hr = chart_->PosToDateOnly(barPos, d);
+        if (SUCCEEDED(hr)) *date = d;
+        return hr;
     }
 
 private:
-    ~ChartData() = default;
-    ULONG refs_ = 1;
-    SyntheticChart chart_;
+    std::shared_ptr<SyntheticChartData> chart_;
 };
 
 void AppendUtf8(std::string& out, unsigned code)
@@ -101,9 +92,14 @@ void AppendUtf8(std::string& out, unsigned code)
 
 } // namespace
 
-ComPtr<IChartData> MakeChartData(SyntheticChart chart)
+ComPtr<IChartData> MakeChartData(std::shared_ptr<SyntheticChartData> chart)
 {
-    return ComPtr<IChartData>::Attach(new ChartData(std::move(chart)));
+    return ChartData::Make(std::move(chart));
+}
+
+std::shared_ptr<SyntheticChartData> HostChart(bool intraday)
+{
+    return intraday ? SyntheticChartData::Intraday(10, 2024, 6, 28) : SyntheticChartData::Daily(500, 2024, 6, 28);
 }
 
 std::string EscapeEventText(const wchar_t* text, UINT length)
@@ -132,30 +128,13 @@ std::string EscapeEventText(const wchar_t* text, UINT length)
     return out;
 }
 
-ComPtr<StatusEventPrinter> StatusEventPrinter::Make(std::FILE* out)
+std::span<const ComInterfaceEntry> StatusEventPrinter::Interfaces()
 {
-    return ComPtr<StatusEventPrinter>::Attach(new StatusEventPrinter(out));
-}
-
-HRESULT StatusEventPrinter::QueryInterface(REFIID iid, void** object)
-{
-    if (object == nullptr) return E_POINTER;
-    *object = nullptr;
-    if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IDispatch) && !IsEqualIID(iid, DIID__IChartPagesEvents)) {
-        return E_NOINTERFACE;
-    }
-    *object = static_cast<IDispatch*>(this);
-    AddRef();
-    return S_OK;
-}
-
-ULONG StatusEventPrinter::AddRef() { return ++refs_; }
-
-ULONG StatusEventPrinter::Release()
-{
-    const ULONG left = --refs_;
-    if (left == 0) delete this;
-    return left;
+    static constexpr ComInterfaceEntry table[] = {
+        ComInterface<StatusEventPrinter, IDispatch>(IID_IDispatch),
+        ComInterface<StatusEventPrinter, IDispatch>(DIID__IChartPagesEvents),
+    };
+    return table;
 }
 
 HRESULT StatusEventPrinter::GetTypeInfoCount(UINT* count)

@@ -2,11 +2,14 @@
 
 #include "ComObjects.h"
 
+#include "com/ComObject.h"
+#include "com/WideText.h"
 #include "xml/Xml.h"
 #include "xml/msxml/MsxmlGuids.h"
 
 #include <cwctype>
 #include <functional>
+#include <span>
 
 namespace orv::host_app {
 namespace {
@@ -17,14 +20,7 @@ std::wstring Upper(std::wstring text)
     return text;
 }
 
-std::wstring FromBstr(BSTR text) { return text != nullptr ? std::wstring(text, SysStringLen(text)) : std::wstring(); }
-
 std::string Printable(const std::wstring& text) { return EscapeEventText(text.c_str(), static_cast<UINT>(text.size())); }
-
-Bstr MakeBstr(const std::wstring& text)
-{
-    return Bstr::Attach(SysAllocStringLen(text.data(), static_cast<UINT>(text.size())));
-}
 
 // The node that `xpath` selects, or null; a malformed XPath is the caller's error.
 HRESULT SelectNode(IXMLDOMDocument2* document, BSTR xpath, ComPtr<IXMLDOMNode>& node)
@@ -40,14 +36,14 @@ bool NodeValue(IXMLDOMNode* node, BSTR attribute, std::wstring& value)
     if (SysStringLen(attribute) == 0) {
         Bstr text;
         if (FAILED(node->get_text(text.put()))) return false;
-        value = FromBstr(text.get());
+        value = WideFromBstr(text.get());
         return true;
     }
     ComPtr<IXMLDOMElement> element;
     if (FAILED(node->QueryInterface(msxml::kIID_IXMLDOMElement, reinterpret_cast<void**>(element.put())))) return false;
     Variant answer;
     if (element->getAttribute(attribute, answer.put()) != S_OK || answer.get().vt != VT_BSTR) return false;
-    value = FromBstr(answer.get().bstrVal);
+    value = WideFromBstr(answer.get().bstrVal);
     return true;
 }
 
@@ -69,7 +65,7 @@ std::wstring NodeName(IXMLDOMNode* node)
 {
     Bstr name;
     if (FAILED(node->get_nodeName(name.put()))) return {};
-    return FromBstr(name.get());
+    return WideFromBstr(name.get());
 }
 
 std::wstring Attribute(IXMLDOMNode* node, const wchar_t* name)
@@ -82,29 +78,21 @@ std::wstring Attribute(IXMLDOMNode* node, const wchar_t* name)
 
 // A plain single-threaded COM object: the component calls it on this thread only. The
 // dispatch half is not served: the component calls the dual interfaces through their vtables.
-template <typename Interface>
-class ServiceObject : public Interface {
+template <typename Object, typename Interface>
+class ServiceObject : public ComObject<Object, Interface> {
 public:
-    ServiceObject(const IID& iid, std::shared_ptr<HostSettings> settings) : iid_(iid), settings_(std::move(settings)) {}
+    explicit ServiceObject(std::shared_ptr<HostSettings> settings) : settings_(std::move(settings)) {}
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override
+    // The service's own interface and IDispatch, both answered by the dual interface.
+    static std::span<const ComInterfaceEntry> Interfaces()
     {
-        if (object == nullptr) return E_POINTER;
-        *object = nullptr;
-        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IDispatch) && !IsEqualIID(iid, iid_)) {
-            return E_NOINTERFACE;
-        }
-        *object = static_cast<Interface*>(this);
-        AddRef();
-        return S_OK;
+        static constexpr ComInterfaceEntry table[] = {
+            ComInterface<Object, Interface>(Object::kIid),
+            ComInterface<Object, Interface>(IID_IDispatch),
+        };
+        return table;
     }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = --refs_;
-        if (left == 0) delete this;
-        return left;
-    }
+
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override
     {
         if (count == nullptr) return E_POINTER;
@@ -123,28 +111,23 @@ public:
     }
 
 protected:
-    virtual ~ServiceObject() = default;
-    const IID& iid_;
     std::shared_ptr<HostSettings> settings_;
-
-private:
-    ULONG refs_ = 1;
 };
 
 constexpr long kFound = 0;
 constexpr long kNotFound = 1;
 
-class SettingsService final : public ServiceObject<ISettingsService> {
+class SettingsService final : public ServiceObject<SettingsService, ISettingsService> {
 public:
-    explicit SettingsService(std::shared_ptr<HostSettings> settings)
-        : ServiceObject(IID_ISettingsService, std::move(settings)) {}
+    static constexpr const IID& kIid = IID_ISettingsService;
+    explicit SettingsService(std::shared_ptr<HostSettings> settings) : ServiceObject(std::move(settings)) {}
 
     HRESULT STDMETHODCALLTYPE GetValue(BSTR section, BSTR key, VARIANT* value, LONG* result) override
     {
         if (value == nullptr || result == nullptr) return E_POINTER;
         VariantInit(value);
         std::wstring text;
-        if (!settings_->Value(FromBstr(section), FromBstr(key), text)) {
+        if (!settings_->Value(WideFromBstr(section), WideFromBstr(key), text)) {
             *result = kNotFound;
             return S_OK;
         }
@@ -157,9 +140,9 @@ public:
     HRESULT STDMETHODCALLTYPE SetValue(BSTR section, BSTR key, LONG value, LONG kind, LONG* result) override
     {
         if (result == nullptr) return E_POINTER;
-        settings_->SetValue(FromBstr(section), FromBstr(key), std::to_wstring(value));
-        std::fprintf(settings_->Output(), "SetValue: %s %s %ld %ld\n", Printable(FromBstr(section)).c_str(),
-                     Printable(FromBstr(key)).c_str(), static_cast<long>(value), static_cast<long>(kind));
+        settings_->SetValue(WideFromBstr(section), WideFromBstr(key), std::to_wstring(value));
+        std::fprintf(settings_->Output(), "SetValue: %s %s %ld %ld\n", Printable(WideFromBstr(section)).c_str(),
+                     Printable(WideFromBstr(key)).c_str(), static_cast<long>(value), static_cast<long>(kind));
         std::fflush(settings_->Output());
         *result = kFound;
         return S_OK;
@@ -183,7 +166,7 @@ public:
         *value = nullptr;
         *result = kNotFound;
         std::wstring text;
-        if (IXMLDOMDocument2* doc = settings_->Document(FromBstr(document))) {
+        if (IXMLDOMDocument2* doc = settings_->Document(WideFromBstr(document))) {
             ComPtr<IXMLDOMNode> node;
             const HRESULT hr = SelectNode(doc, xpath, node);
             if (FAILED(hr)) return hr;
@@ -198,7 +181,7 @@ public:
         if (node == nullptr || result == nullptr) return E_POINTER;
         *node = nullptr;
         *result = kNotFound;
-        IXMLDOMDocument2* doc = settings_->Document(FromBstr(document));
+        IXMLDOMDocument2* doc = settings_->Document(WideFromBstr(document));
         if (doc == nullptr) return S_OK;
         ComPtr<IXMLDOMNode> found;
         const HRESULT hr = SelectNode(doc, xpath, found);
@@ -209,14 +192,15 @@ public:
     }
 };
 
-class HelpService final : public ServiceObject<IHelpService> {
+class HelpService final : public ServiceObject<HelpService, IHelpService> {
 public:
-    explicit HelpService(std::shared_ptr<HostSettings> settings) : ServiceObject(IID_IHelpService, std::move(settings)) {}
+    static constexpr const IID& kIid = IID_IHelpService;
+    explicit HelpService(std::shared_ptr<HostSettings> settings) : ServiceObject(std::move(settings)) {}
 
     HRESULT STDMETHODCALLTYPE ShowHelp(BSTR book, LONG topicId, LONG flags, LONG* result) override
     {
         if (result == nullptr) return E_POINTER;
-        std::fprintf(settings_->Output(), "ShowHelp: %s %ld %ld\n", Printable(FromBstr(book)).c_str(),
+        std::fprintf(settings_->Output(), "ShowHelp: %s %ld %ld\n", Printable(WideFromBstr(book)).c_str(),
                      static_cast<long>(topicId), static_cast<long>(flags));
         std::fflush(settings_->Output());
         *result = 0;
@@ -225,26 +209,15 @@ public:
 };
 
 // Makes a new service at each creation, as the component expects.
-class ServiceFactory final : public IClassFactory {
+class ServiceFactory final : public ComObject<ServiceFactory, IClassFactory> {
 public:
     using Creator = std::function<HRESULT(REFIID, void**)>;
     explicit ServiceFactory(Creator create) : create_(std::move(create)) {}
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override
+    static std::span<const ComInterfaceEntry> Interfaces()
     {
-        if (object == nullptr) return E_POINTER;
-        *object = nullptr;
-        if (!IsEqualIID(iid, IID_IUnknown) && !IsEqualIID(iid, IID_IClassFactory)) return E_NOINTERFACE;
-        *object = static_cast<IClassFactory*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++refs_; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = --refs_;
-        if (left == 0) delete this;
-        return left;
+        static constexpr ComInterfaceEntry table[] = {ComInterface<ServiceFactory, IClassFactory>(IID_IClassFactory)};
+        return table;
     }
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** object) override
     {
@@ -256,8 +229,6 @@ public:
     HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
 
 private:
-    ~ServiceFactory() = default;
-    ULONG refs_ = 1;
     Creator create_;
 };
 
@@ -352,12 +323,12 @@ void HostSettings::SetValue(const std::wstring& section, const std::wstring& key
 
 ComPtr<ISettingsService> MakeSettingsService(std::shared_ptr<HostSettings> settings)
 {
-    return ComPtr<ISettingsService>::Attach(new SettingsService(std::move(settings)));
+    return SettingsService::Make(std::move(settings));
 }
 
 ComPtr<IHelpService> MakeHelpService(std::shared_ptr<HostSettings> settings)
 {
-    return ComPtr<IHelpService>::Attach(new HelpService(std::move(settings)));
+    return HelpService::Make(std::move(settings));
 }
 
 ServiceRegistration::~ServiceRegistration()
@@ -374,7 +345,7 @@ HRESULT ServiceRegistration::Register(std::shared_ptr<HostSettings> settings)
          [settings](REFIID iid, void** object) { return Hand(MakeHelpService(settings), iid, object); }},
     };
     for (const auto& [clsid, creator] : classes) {
-        const ComPtr<ServiceFactory> factory = ComPtr<ServiceFactory>::Attach(new ServiceFactory(creator));
+        const ComPtr<ServiceFactory> factory = ServiceFactory::Make(creator);
         DWORD cookie = 0;
         // This process only; CoCreateInstance in any context the component asks for finds it.
         const HRESULT hr = CoRegisterClassObject(*clsid, factory.get(), CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie);

@@ -8,7 +8,7 @@
 #include <msxml2.h>
 
 #include "OrvChartDlgs_h.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
 
 #include <cstdio>
 #include <map>

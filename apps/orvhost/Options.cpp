@@ -1,5 +1,6 @@
 #include "Options.h"
 
+#include "com/WideText.h"
 #include "xml/StrFormat.h"
 
 namespace orv::host_app {
@@ -26,17 +27,6 @@ const char* const kUsage =
     "Exit code: the result (1 changed, 0 not, 2 no such sheet, 255 for -1);\n"
     "3 a bad or failed script, 4 a bad command line or document, 5 the component failed.\n";
 
-namespace {
-
-std::string Narrow(const std::wstring& text)
-{
-    std::string out;
-    for (const wchar_t c : text) out += (c < 0x80) ? static_cast<char>(c) : '?';
-    return out;
-}
-
-} // namespace
-
 ParsedOptions ParseOptions(const std::vector<std::wstring>& args)
 {
     ParsedOptions parsed;
@@ -47,7 +37,7 @@ ParsedOptions ParseOptions(const std::vector<std::wstring>& args)
         // Options that take a value refuse a missing or empty one.
         auto value = [&](std::wstring& out) {
             if (i + 1 >= args.size() || args[i + 1].empty()) {
-                parsed.error = StrFormat("%s needs a value", Narrow(arg).c_str());
+                parsed.error = StrFormat("%s needs a value", Narrow(arg, CP_UTF8).c_str());
                 return false;
             }
             out = args[++i];
@@ -60,7 +50,7 @@ ParsedOptions ParseOptions(const std::vector<std::wstring>& args)
             else if (how == L"manifest") o.activation = Activation::Manifest;
             else if (how == L"direct") o.activation = Activation::Direct;
             else {
-                parsed.error = StrFormat("--activate takes registered, manifest or direct, not \"%s\"", Narrow(how).c_str());
+                parsed.error = StrFormat("--activate takes registered, manifest or direct, not \"%s\"", Narrow(how, CP_UTF8).c_str());
                 return parsed;
             }
         } else if (arg == L"--progid") {
@@ -91,7 +81,7 @@ ParsedOptions ParseOptions(const std::vector<std::wstring>& args)
         } else if (arg == L"--help" || arg == L"-h" || arg == L"/?") {
             o.help = true;
         } else {
-            parsed.error = StrFormat("unknown argument \"%s\"", Narrow(arg).c_str());
+            parsed.error = StrFormat("unknown argument \"%s\"", Narrow(arg, CP_UTF8).c_str());
             return parsed;
         }
     }

@@ -1,6 +1,7 @@
 #include "ScriptDriver.h"
 
 #include "WindowCapture.h"
+#include "com/WideText.h"
 #include "xml/StrFormat.h"
 
 #include <commctrl.h>
@@ -17,14 +18,6 @@ constexpr DWORD kSheetTimeoutMilliseconds = 15000;
 constexpr DWORD kStuckMilliseconds = 5000;
 
 ScriptDriver* g_running = nullptr; // the timer callback carries no context
-
-std::wstring Widen(const std::string& utf8)
-{
-    const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), nullptr, 0);
-    std::wstring out(static_cast<std::size_t>(length > 0 ? length : 0), L'\0');
-    if (length > 0) MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()), out.data(), length);
-    return out;
-}
 
 std::string ClassOf(HWND window)
 {
@@ -188,7 +181,7 @@ std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet)
     switch (step.op) {
     case ScriptOp::Text: {
         if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
-        const std::wstring text = Widen(step.text);
+        const std::wstring text = Widen(step.text, CP_UTF8);
         SendMessageW(control, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
         SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(step.id, EN_CHANGE), reinterpret_cast<LPARAM>(control));
         return {};
@@ -227,7 +220,7 @@ std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet)
     case ScriptOp::Finish: SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_FINISH, 0); return {};
     case ScriptOp::Wait: return {};
     case ScriptOp::Screenshot: {
-        const HRESULT hr = apps::CaptureWindowToPng(sheet, Widen(step.text));
+        const HRESULT hr = apps::CaptureWindowToPng(sheet, Widen(step.text, CP_UTF8));
         if (FAILED(hr)) return StrFormat("cannot write %s (0x%08lX)", step.text.c_str(), static_cast<unsigned long>(hr));
         return {};
     }

@@ -8,11 +8,11 @@
 #include "Options.h"
 #include "Script.h"
 #include "ScriptDriver.h"
-#include "SyntheticChart.h"
 #include "resource.h"
 
 #include "xml/StrFormat.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
+#include "com/WideText.h"
 #include "xml/msxml/MsxmlGuids.h"
 
 #include <windows.h>
@@ -26,6 +26,7 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -49,31 +50,14 @@ private:
     HRESULT hr_;
 };
 
-std::string Utf8(const std::wstring& text)
-{
-    const int length = WideCharToMultiByte(CP_UTF8, 0, text.c_str(), static_cast<int>(text.size()), nullptr, 0,
-                                           nullptr, nullptr);
-    std::string out(static_cast<std::size_t>(length > 0 ? length : 0), '\0');
-    if (length > 0) {
-        WideCharToMultiByte(CP_UTF8, 0, text.c_str(), static_cast<int>(text.size()), out.data(), length, nullptr,
-                            nullptr);
-    }
-    return out;
-}
+std::string Utf8(const std::wstring& text) { return Narrow(text, CP_UTF8); }
 
 // UTF-8 (with or without a byte order mark) to UTF-16; other bytes are taken in the ANSI code page.
 std::wstring Wide(std::string bytes)
 {
     if (bytes.size() >= 3 && bytes.compare(0, 3, "\xEF\xBB\xBF") == 0) bytes.erase(0, 3);
-    UINT page = CP_UTF8;
-    int length = MultiByteToWideChar(page, MB_ERR_INVALID_CHARS, bytes.data(), static_cast<int>(bytes.size()), nullptr, 0);
-    if (length == 0 && !bytes.empty()) {
-        page = CP_ACP;
-        length = MultiByteToWideChar(page, 0, bytes.data(), static_cast<int>(bytes.size()), nullptr, 0);
-    }
-    std::wstring out(static_cast<std::size_t>(length > 0 ? length : 0), L'\0');
-    if (length > 0) MultiByteToWideChar(page, 0, bytes.data(), static_cast<int>(bytes.size()), out.data(), length);
-    return out;
+    if (std::optional<std::wstring> utf8 = WidenStrict(bytes, CP_UTF8)) return std::move(*utf8);
+    return Widen(bytes, CP_ACP);
 }
 
 bool ReadFile(const std::wstring& path, std::string& bytes)
@@ -125,8 +109,7 @@ bool LoadDocument(const Options& options, ComPtr<IXMLDOMDocument2>& document, st
     }
     document->put_async(VARIANT_FALSE);
     const std::wstring text = Wide(std::move(bytes));
-    Bstr xml;
-    *xml.put() = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+    Bstr xml = MakeBstr(text);
     VARIANT_BOOL loaded = VARIANT_FALSE;
     hr = document->loadXML(xml.get(), &loaded);
     if (FAILED(hr) || loaded != VARIANT_TRUE) {
@@ -264,7 +247,7 @@ int Run(const std::vector<std::wstring>& args)
 
     ComPtr<IChartData> chartData;
     if (!options.noChartData) {
-        chartData = MakeChartData(options.intraday ? SyntheticChart::Intraday() : SyntheticChart::Daily());
+        chartData = MakeChartData(HostChart(options.intraday));
     }
 
     ScriptDriver driver(std::move(steps));

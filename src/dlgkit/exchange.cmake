@@ -11,6 +11,11 @@ list(APPEND ORV_DLGKIT_WIN32_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/win32/DialogHost.cpp
   ${CMAKE_CURRENT_LIST_DIR}/win32/MessageBoxWin32.cpp
   ${CMAKE_CURRENT_LIST_DIR}/win32/SettingsStoreWin32.cpp
+  # The portable headers' copies of the platform's constants, checked against its own headers.
+  ${CMAKE_CURRENT_LIST_DIR}/win32/ControlsMirror.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/win32/MessageBoxMirror.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/win32/PageMirror.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/win32/WindowOpsMirror.cpp
 )
 list(APPEND ORV_DLGKIT_NATIVE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/native/ClockNative.cpp
@@ -20,4 +25,5 @@ list(APPEND ORV_DLGKIT_NATIVE_SOURCES
 list(APPEND ORV_DLGKIT_FAKE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/fake/ControlsFake.cpp
   ${CMAKE_CURRENT_LIST_DIR}/fake/HeadlessRunner.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/fake/TemplateLayout.cpp
 )

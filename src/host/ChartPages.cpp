@@ -10,7 +10,8 @@
 #include "host/ComError.h"
 #include "host/SheetDispatcher.h"
 #include "host/TypeLibrary.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
+#include "com/WideText.h"
 #include "xml/msxml/XmlMsxml.h"
 
 namespace orv::host {
@@ -23,19 +24,6 @@ constexpr DISPID kDispidStatusEvent = 101;
 ITypeInfo& ChartPagesTypeInfo() {
   static const ComPtr<ITypeInfo> info = ComponentTypeInfo(IID_IChartPages);
   return *info.get();
-}
-
-// A narrow text of the thread's code page as an event string.
-Bstr EventString(const std::string& text) {
-  if (text.size() > static_cast<size_t>(INT_MAX)) throw XmlComError(orv::kStatusOutOfMemory, "StatusEvent");
-  int length = text.empty() ? 0
-                            : MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), static_cast<int>(text.size()),
-                                                  nullptr, 0);
-  Bstr result = Bstr::Attach(SysAllocStringLen(nullptr, static_cast<UINT>(length)));
-  if (!result.get()) throw XmlComError(orv::kStatusOutOfMemory, "StatusEvent");
-  if (length > 0)
-    MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), static_cast<int>(text.size()), result.get(), length);
-  return result;
 }
 
 }  // namespace
@@ -243,8 +231,8 @@ orv::Status CChartPages::FireStatusEvent(std::int32_t type, const std::string& v
                                          const std::string& xmlExtra, std::int32_t& result) {
   orv::Status status = 0;
   if (events_.SlotCount() == 0) return status;
-  Bstr valueText = EventString(value);
-  Bstr extraText = EventString(xmlExtra);
+  Bstr valueText = MakeBstr(value);
+  Bstr extraText = MakeBstr(xmlExtra);
   LONG answer = result;
   // Positional arguments go last to first: plReturn, pXMLExtra, lValue, pValue, lType.
   VARIANTARG args[5];

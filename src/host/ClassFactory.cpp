@@ -3,6 +3,7 @@
 #include <atomic>
 #include <new>
 
+#include "com/ComPtr.h"
 #include "host/Module.h"
 
 namespace orv::host {
@@ -81,12 +82,11 @@ HRESULT GetClassObject(std::span<const ClassEntry> table, REFCLSID clsid, REFIID
     const ClassEntry* entry = FindClass(table, clsid);
     if (entry == nullptr || entry->create == nullptr)
         return CLASS_E_CLASSNOTAVAILABLE;
-    auto* factory = new (std::nothrow) ClassFactory(*entry);
-    if (factory == nullptr)
+    // The query's reference is the caller's; a failed query frees the factory.
+    const ComPtr<ClassFactory> factory = ComPtr<ClassFactory>::Attach(new (std::nothrow) ClassFactory(*entry));
+    if (!factory)
         return E_OUTOFMEMORY;
-    HRESULT hr = factory->QueryInterface(iid, object);
-    factory->Release(); // the query's reference is the caller's; a failed query frees it
-    return hr;
+    return factory->QueryInterface(iid, object);
 }
 
 } // namespace orv::host

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "host/Module.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
 
 namespace orv::host {
 

@@ -3,19 +3,11 @@
 #include <oleauto.h>
 
 #include "xml/StrFormat.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
+#include "com/WideText.h"
 
 namespace orv::host {
 namespace {
-
-std::wstring Widen(const std::string& text) {
-  if (text.empty()) return {};
-  int length = MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-  if (length <= 0) return {};
-  std::wstring wide(static_cast<size_t>(length), L'\0');
-  MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), static_cast<int>(text.size()), wide.data(), length);
-  return wide;
-}
 
 // The system's own words for a status, when it has any ("Not enough memory resources ...").
 std::string SystemText(HRESULT status) {

@@ -10,7 +10,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
 
 namespace orv::host {
 

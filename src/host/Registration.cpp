@@ -7,6 +7,7 @@
 #include <new>
 #include <set>
 
+#include "com/ComPtr.h"
 #include "dlgkit/SettingsStore.h"
 
 namespace orv::host {
@@ -154,10 +155,6 @@ HRESULT LoadModuleTypeLib(const std::wstring& path, ITypeLib** library)
     return LoadTypeLibEx(path.c_str(), REGKIND_NONE, library);
 }
 
-struct Releaser {
-    void operator()(IUnknown* object) const noexcept { object->Release(); }
-};
-
 // The per-user forms (Vista and later) are not declared by every SDK's headers; resolved where
 // the system offers them, else the machine-wide forms are the system's only ones.
 using RegisterForUserFn = HRESULT(WINAPI*)(ITypeLib*, OLECHAR*, OLECHAR*);
@@ -171,11 +168,10 @@ template <typename Fn> Fn OleAutomationExport(const char* name)
 
 HRESULT RegisterTypeLibrary(const std::wstring& path, RegistrationScope scope)
 {
-    ITypeLib* raw = nullptr;
-    HRESULT hr = LoadModuleTypeLib(path, &raw);
+    ComPtr<ITypeLib> library;
+    HRESULT hr = LoadModuleTypeLib(path, library.put());
     if (FAILED(hr))
         return hr;
-    std::unique_ptr<ITypeLib, Releaser> library(raw);
     std::wstring copy = path; // the functions take non-const strings
     // Under Wine, RegisterTypeLibForUser writes the machine's TypeLib and Interface keys.
     if (scope == RegistrationScope::CurrentUser) {
@@ -188,11 +184,10 @@ HRESULT RegisterTypeLibrary(const std::wstring& path, RegistrationScope scope)
 HRESULT UnregisterTypeLibrary(const std::wstring& path, RegistrationScope scope)
 {
     // The library's own locale and system kind name the registration to remove.
-    ITypeLib* raw = nullptr;
-    HRESULT hr = LoadModuleTypeLib(path, &raw);
+    ComPtr<ITypeLib> library;
+    HRESULT hr = LoadModuleTypeLib(path, library.put());
     if (FAILED(hr))
         return hr;
-    std::unique_ptr<ITypeLib, Releaser> library(raw);
     TLIBATTR* attributes = nullptr;
     hr = library->GetLibAttr(&attributes);
     if (FAILED(hr))

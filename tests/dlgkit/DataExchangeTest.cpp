@@ -23,9 +23,10 @@ struct Dialog : CWinDataExchangeZel<Dialog> {
   orv::Controls& Ctl() { return controls; }
   Dialog() {
     controls.Add(kEdit, FakeControlKind::Edit)
-        .Add(kCheck, FakeControlKind::ThreeStateCheckBox)
+        .Add(kCheck, FakeControlKind::CheckBox)
         .Add(kCombo, FakeControlKind::ComboBox)
         .Add(kOther, FakeControlKind::Edit);
+    controls.Control(kCheck).threeState = true;
     controls.SetFocus(kOther);
   }
   // A refusal is a beep and the focus on the refused control.

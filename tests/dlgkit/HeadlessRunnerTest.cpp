@@ -324,21 +324,20 @@ TEST(FakeControls, UserInputProducesTheControlsNotifications) {
 // rules, which DataExchangeWin32Test checks against real buttons with the same table.
 TEST(FakeControls, CheckStatesAreWhatTheBoxCanHold) {
   struct Case {
-    FakeControlKind kind;
+    bool threeState;
     int set;
     int kept;
     int afterClick;
   };
   const Case cases[] = {
-      {FakeControlKind::CheckBox, 0, 0, 1},           {FakeControlKind::CheckBox, 1, 1, 0},
-      {FakeControlKind::CheckBox, 2, 1, 0},           {FakeControlKind::CheckBox, -1, 1, 0},
-      {FakeControlKind::ThreeStateCheckBox, 0, 0, 1}, {FakeControlKind::ThreeStateCheckBox, 1, 1, 2},
-      {FakeControlKind::ThreeStateCheckBox, 2, 2, 0}, {FakeControlKind::ThreeStateCheckBox, 7, 2, 0},
+      {false, 0, 0, 1}, {false, 1, 1, 0}, {false, 2, 1, 0}, {false, -1, 1, 0},
+      {true, 0, 0, 1},  {true, 1, 1, 2},  {true, 2, 2, 0},  {true, 7, 2, 0},
   };
   for (const Case& c : cases) {
-    SCOPED_TRACE(testing::Message() << "kind " << static_cast<int>(c.kind) << " set " << c.set);
+    SCOPED_TRACE(testing::Message() << (c.threeState ? "three-state" : "two-state") << " set " << c.set);
     orv::FakeControls controls;
-    controls.Add(kCheck, c.kind);
+    controls.Add(kCheck, FakeControlKind::CheckBox);
+    controls.Control(kCheck).threeState = c.threeState;
     EXPECT_TRUE(controls.CheckDlgButton(kCheck, c.set));
     EXPECT_EQ(controls.IsDlgButtonChecked(kCheck), c.kept);
     controls.Click(kCheck);

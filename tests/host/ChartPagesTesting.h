@@ -14,7 +14,7 @@
 #include "host/ChartPagesObject.h"
 #include "host/Module.h"
 #include "xml/Xml.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
 #include "xml/msxml/XmlMsxml.h"
 
 namespace orv::host::testing {

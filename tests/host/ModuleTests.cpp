@@ -14,12 +14,14 @@
 #include <vector>
 
 #include "ModuleTesting.h"
+#include "com/ComPtr.h"
 #include "OrvChartDlgs_h.h"
 
 namespace {
 
 using namespace orv::host::testing;
 using orv::host::CanUnloadNow;
+using orv::ComPtr;
 using orv::host::ModuleLock;
 
 using GetClassObjectFn = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, LPVOID*);
@@ -157,33 +159,29 @@ TEST_F(Dll, AssemblyManifestListsExactlyTheServedClasses)
     const std::string manifest(bytes, SizeofResource(library_.get(), found));
     EXPECT_NE(manifest.find("name=\"OrvChartDlgs\" version=\"1.0.0.0\""), std::string::npos);
 
-    ITypeLib* library = nullptr;
-    ASSERT_EQ(LoadTypeLibEx(DllPath().c_str(), REGKIND_NONE, &library), S_OK);
+    ComPtr<ITypeLib> library;
+    ASSERT_EQ(LoadTypeLibEx(DllPath().c_str(), REGKIND_NONE, library.put()), S_OK);
     int served = 0;
     for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
         TYPEKIND kind{};
         ASSERT_EQ(library->GetTypeInfoType(i, &kind), S_OK);
         if (kind != TKIND_COCLASS)
             continue;
-        ITypeInfo* info = nullptr;
-        ASSERT_EQ(library->GetTypeInfo(i, &info), S_OK);
+        ComPtr<ITypeInfo> info;
+        ASSERT_EQ(library->GetTypeInfo(i, info.put()), S_OK);
         TYPEATTR* attr = nullptr;
         ASSERT_EQ(info->GetTypeAttr(&attr), S_OK);
         const GUID clsid = attr->guid;
         info->ReleaseTypeAttr(attr);
-        info->Release();
 
-        IClassFactory* factory = nullptr;
-        bool serves = getClassObject_(clsid, IID_IClassFactory, reinterpret_cast<void**>(&factory)) == S_OK;
-        if (factory)
-            factory->Release();
+        ComPtr<IClassFactory> factory;
+        bool serves = getClassObject_(clsid, IID_IClassFactory, reinterpret_cast<void**>(factory.put())) == S_OK;
         std::wstring text = L"clsid=\"" + GuidText(clsid) + L"\"";
         bool listed = manifest.find(std::string(text.begin(), text.end())) != std::string::npos;
         EXPECT_EQ(serves, listed) << GuidText(clsid) << (serves ? " is served but not in" : " is not served but in")
                                   << " the manifest";
         served += serves;
     }
-    library->Release();
     EXPECT_GE(served, 1);
 }
 

@@ -7,10 +7,12 @@
 
 #include "ModuleTesting.h"
 #include "OrvChartDlgs_h.h"
+#include "com/ComPtr.h"
 
 namespace {
 
 using namespace orv::host::testing;
+using orv::ComPtr;
 
 class RegFree : public ::testing::Test {
 protected:
@@ -28,9 +30,9 @@ protected:
 
     static void ExpectWorkingChartPages(REFCLSID clsid)
     {
-        IChartPages* pages = nullptr;
+        ComPtr<IChartPages> pages;
         ASSERT_EQ(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IChartPages,
-                                   reinterpret_cast<void**>(&pages)), S_OK) << GuidText(clsid);
+                                   reinterpret_cast<void**>(pages.put())), S_OK) << GuidText(clsid);
         long result = 0;
         EXPECT_EQ(pages->TerminatePage(0, &result), S_OK);
         EXPECT_EQ(result, 1);
@@ -40,7 +42,6 @@ protected:
         DISPID id = 0;
         EXPECT_EQ(pages->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id), S_OK);
         EXPECT_EQ(id, 3);
-        pages->Release();
     }
 };
 
@@ -63,13 +64,10 @@ TEST_F(RegFree, ChartPagesByBothProgIds)
 
 TEST_F(RegFree, TypeLibraryFromTheContext)
 {
-    ITypeLib* library = nullptr;
-    ASSERT_EQ(LoadRegTypeLib(LIBID_OrvChartDlgsLib, 1, 0, LOCALE_NEUTRAL, &library), S_OK);
-    ITypeInfo* info = nullptr;
-    EXPECT_EQ(library->GetTypeInfoOfGuid(IID_IChartPages, &info), S_OK);
-    if (info)
-        info->Release();
-    library->Release();
+    ComPtr<ITypeLib> library;
+    ASSERT_EQ(LoadRegTypeLib(LIBID_OrvChartDlgsLib, 1, 0, LOCALE_NEUTRAL, library.put()), S_OK);
+    ComPtr<ITypeInfo> info;
+    EXPECT_EQ(library->GetTypeInfoOfGuid(IID_IChartPages, info.put()), S_OK);
 }
 
 TEST_F(RegFree, ClassesNotInTheAssemblyStayUnknown)

@@ -14,10 +14,12 @@
 
 #include "ModuleTesting.h"
 #include "OrvChartDlgs_h.h"
+#include "com/ComPtr.h"
 
 namespace {
 
 using namespace orv::host::testing;
+using orv::ComPtr;
 using Listing = std::set<std::wstring>;
 
 const wchar_t kChartPages[] = L"{938D688E-9268-4672-87AC-842DD8A62AA8}";
@@ -272,22 +274,19 @@ TEST_F(Registration, ForTheMachineActivatesByBothProgIdsAndUnregistersClean)
         CLSID clsid{};
         ASSERT_EQ(CLSIDFromProgID(progId, &clsid), S_OK);
         EXPECT_TRUE(IsEqualCLSID(clsid, CLSID_ChartPages));
-        IChartPages* pages = nullptr;
-        ASSERT_EQ(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IChartPages, reinterpret_cast<void**>(&pages)), S_OK);
+        ComPtr<IChartPages> pages;
+        ASSERT_EQ(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IChartPages, reinterpret_cast<void**>(pages.put())), S_OK);
         long result = -5;
         EXPECT_EQ(pages->DoModal(nullptr, &result), S_OK);
         EXPECT_EQ(result, 2);
         // The registered type library answers for the dispatch interface.
-        ITypeInfo* info = nullptr;
-        EXPECT_EQ(pages->GetTypeInfo(0, LOCALE_USER_DEFAULT, &info), S_OK);
-        if (info)
-            info->Release();
-        pages->Release();
+        ComPtr<ITypeInfo> info;
+        EXPECT_EQ(pages->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.put()), S_OK);
     }
-    ITypeLib* library = nullptr;
-    EXPECT_EQ(LoadRegTypeLib(LIBID_OrvChartDlgsLib, 1, 0, LOCALE_NEUTRAL, &library), S_OK);
-    if (library)
-        library->Release();
+    {
+        ComPtr<ITypeLib> library;
+        EXPECT_EQ(LoadRegTypeLib(LIBID_OrvChartDlgsLib, 1, 0, LOCALE_NEUTRAL, library.put()), S_OK);
+    }
     CoFreeUnusedLibraries();
     CoUninitialize();
 

@@ -90,6 +90,9 @@ void FakeControls::NotifyItemChanged(int id, int item, const FakeListViewRow& be
 void FakeControls::TypeText(int id, std::string_view text) {
   FakeControl& control = Reachable(id, "type");
   if (control.kind != FakeControlKind::Edit) throw std::logic_error("cannot type: " + Describe(id) + " is no edit");
+  if (control.readOnly) throw std::logic_error("cannot type: " + Describe(id) + " is read-only");
+  if (control.digitsOnly && text.find_first_not_of("0123456789") != std::string_view::npos)
+    throw std::logic_error("cannot type: " + Describe(id) + " takes digits only");
   control.text = std::string(text.substr(0, control.textLimit ? control.textLimit : text.size()));
   SetFocus(id);
   Command(id, kEnChange);
@@ -101,12 +104,17 @@ void FakeControls::Click(int id) {
     case FakeControlKind::PushButton:
       break;
     case FakeControlKind::CheckBox:
-      control.check = control.check == kBstChecked ? kBstUnchecked : kBstChecked;
-      break;
-    case FakeControlKind::ThreeStateCheckBox:
-      control.check = control.check == kBstIndeterminate ? kBstUnchecked : control.check + 1;
+      if (!control.automatic) break;  // the page checks it on BN_CLICKED
+      if (control.threeState) {
+        control.check = control.check == kBstUnchecked ? kBstChecked
+                        : control.check == kBstChecked ? kBstIndeterminate
+                                                       : kBstUnchecked;
+      } else {
+        control.check = control.check == kBstChecked ? kBstUnchecked : kBstChecked;
+      }
       break;
     case FakeControlKind::RadioButton:
+      if (!control.automatic) break;
       for (auto& [otherId, other] : controls_) {
         if (other.kind == FakeControlKind::RadioButton && other.radioGroup == control.radioGroup) other.check = kBstUnchecked;
       }
@@ -224,7 +232,7 @@ bool FakeControls::CheckDlgButton(int id, int state) {
   if (!control) return false;
   // The platform's BM_SETCHECK: a state past what the box can show becomes the highest it can
   // (read as unsigned, so a negative one too).
-  const unsigned highest = control->kind == FakeControlKind::ThreeStateCheckBox ? kBstIndeterminate
+  const unsigned highest = control->kind == FakeControlKind::CheckBox && control->threeState ? kBstIndeterminate
                            : control->kind == FakeControlKind::CheckBox || control->kind == FakeControlKind::RadioButton
                                ? kBstChecked
                                : ~0u;

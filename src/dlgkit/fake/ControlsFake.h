@@ -24,11 +24,9 @@ namespace orv {
 
 class Page;
 
-// CheckBox is a two-state box (AUTOCHECKBOX), ThreeStateCheckBox one that also holds the
-// indeterminate state (AUTO3STATE).
+// A check box holds the indeterminate state too when it is threeState (AUTO3STATE).
 enum class FakeControlKind {
-  Static, Edit, PushButton, CheckBox, RadioButton, ComboBox, ListBox, ListView, UpDown, DatePicker,
-  ThreeStateCheckBox
+  Static, Edit, PushButton, CheckBox, RadioButton, ComboBox, ListBox, ListView, UpDown, DatePicker, GroupBox
 };
 
 struct FakeRect {
@@ -53,6 +51,10 @@ struct FakeControl {
   std::size_t textLimit = 0;  // edits: what the user may enter at most (EM_LIMITTEXT); 0: no limit
   int check = kBstUnchecked;
   int radioGroup = 0;  // radio buttons with the same group exclude each other
+  bool threeState = false;  // a check box that goes checked, indeterminate, unchecked
+  bool automatic = true;    // a check box or radio button that checks itself when clicked
+  bool readOnly = false;    // an edit the user can't type into
+  bool digitsOnly = false;  // an edit that takes digits only
   bool visible = true;
   bool enabled = true;
   FakeRect rect;

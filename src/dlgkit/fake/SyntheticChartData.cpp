@@ -135,12 +135,14 @@ Status SyntheticChartData::GetTimeKind(std::int32_t& kind) {
 
 Status SyntheticChartData::DateToPos(std::int32_t date, std::int32_t time, std::int32_t* exact, std::int32_t& barPos) {
   calls_.push_back("DateToPos(" + std::to_string(date) + "," + std::to_string(time) + ")");
+  // A daily chart has no times: only the date counts there.
+  const bool byTime = intraday_ && time != 0;
   for (std::size_t i = 0; i < bars_.size(); ++i) {
     const Bar& bar = bars_[i];
-    const bool at = bar.date > date || (bar.date == date && (time == 0 || bar.minutes >= time));
+    const bool at = bar.date > date || (bar.date == date && (!byTime || bar.minutes >= time));
     if (!at) continue;
     barPos = static_cast<std::int32_t>(i);
-    if (exact && (bar.date != date || (time != 0 && bar.minutes != time))) *exact = 0;
+    if (exact && (bar.date != date || (byTime && bar.minutes != time))) *exact = 0;
     return kStatusOk;
   }
   barPos = -1;

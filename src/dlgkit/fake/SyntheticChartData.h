@@ -1,5 +1,6 @@
 #pragma once
-// SyntheticChartData: a small chart behind the ChartData seam, for tests and native demos.
+// SyntheticChartData: a small chart behind the ChartData seam, for tests, fuzzing and the demo
+// host (whose IChartData is a thin COM adapter over it).
 // Daily bars skip weekends and three holidays (1 January, 4 July, 25 December); intraday bars
 // are five minutes apart from 09:30 to 15:55, stamped 17 seconds into their minute, with a
 // running tick counter. Prices come from a fixed formula, so every run sees the same values.
@@ -58,8 +59,9 @@ class SyntheticChartData final : public ChartData {
   Status GetValue(std::int32_t field, std::int32_t barPos, double& value) override;
   // 1 for intraday (with seconds), 0 for daily.
   Status GetTimeKind(std::int32_t& kind) override;
-  // The first bar at or after the date (and the time in minutes, when not 0); `exact` cleared
-  // when that bar is on another day (or at another time). After the last bar: position -1, failure.
+  // The first bar at or after the date (and, on an intraday chart, the time in minutes when not
+  // 0); `exact` cleared when that bar is on another day (or at another time). After the last
+  // bar: position -1, failure.
   Status DateToPos(std::int32_t date, std::int32_t time, std::int32_t* exact, std::int32_t& barPos) override;
   // time: minutes of the day; seconds: seconds of the day.
   Status PosToDate(std::int32_t barPos, std::int32_t& date, std::int32_t& time, std::int32_t& seconds) override;

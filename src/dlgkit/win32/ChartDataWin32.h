@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "OrvChartDlgs_h.h"
+#include "com/ComPtr.h"
 #include "dlgkit/ChartData.h"
 
 namespace orv {
@@ -16,16 +17,10 @@ namespace orv {
 class ChartDataWin32 final : public ChartData {
  public:
   // Holds one reference for its lifetime.
-  explicit ChartDataWin32(IUnknown* chartData) : data_(static_cast<IChartData*>(static_cast<void*>(chartData))) {
-    if (data_) data_->AddRef();
-  }
-  ~ChartDataWin32() override {
-    if (data_) data_->Release();
-  }
-  ChartDataWin32(const ChartDataWin32&) = delete;
-  ChartDataWin32& operator=(const ChartDataWin32&) = delete;
+  explicit ChartDataWin32(IUnknown* chartData)
+      : data_(ComPtr<IChartData>::Share(static_cast<IChartData*>(static_cast<void*>(chartData)))) {}
 
-  IUnknown* Object() const { return data_; }
+  IUnknown* Object() const { return data_.get(); }
 
   Status GetValue(std::int32_t field, std::int32_t barPos, double& value) override {
     return data_->GetValue(field, barPos, &value);
@@ -60,7 +55,7 @@ class ChartDataWin32 final : public ChartData {
   }
 
  private:
-  IChartData* data_;
+  ComPtr<IChartData> data_;
 };
 
 // Null for a null object: the pages then do without chart values.

@@ -1,10 +1,15 @@
 #include "dlgkit/win32/FontOpsWin32.h"
 
+#include <cstddef>
 #include <cstring>
 
 namespace orv {
 
 static_assert(sizeof(LogFont) == sizeof(LOGFONTA), "LogFont has the shape of LOGFONTA");
+static_assert(offsetof(LogFont, lfWeight) == offsetof(LOGFONTA, lfWeight));
+static_assert(offsetof(LogFont, lfItalic) == offsetof(LOGFONTA, lfItalic));
+static_assert(offsetof(LogFont, lfPitchAndFamily) == offsetof(LOGFONTA, lfPitchAndFamily));
+static_assert(offsetof(LogFont, lfFaceName) == offsetof(LOGFONTA, lfFaceName));
 static_assert(kLfFaceSize == LF_FACESIZE);
 
 namespace {

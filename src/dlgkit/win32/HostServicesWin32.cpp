@@ -3,90 +3,47 @@
 #include <memory>
 #include <string>
 
+#include "com/WideText.h"
 #include "xml/XmlError.h"
 #include "xml/msxml/XmlMsxml.h"
 
 namespace orv {
 namespace {
 
-struct ReleaseDeleter {
-  void operator()(IUnknown* unknown) const { unknown->Release(); }
-};
-template <class I>
-using ComRef = std::unique_ptr<I, ReleaseDeleter>;
-
-struct BstrDeleter {
-  void operator()(BSTR text) const { ::SysFreeString(text); }
-};
-using OwnedBstr = std::unique_ptr<OLECHAR, BstrDeleter>;
-
-// Narrow text in the thread's code page to a BSTR for the COM boundary.
-OwnedBstr ToBstr(const std::string& text, const char* context) {
-  const int length = ::MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-  OwnedBstr result(::SysAllocStringLen(nullptr, static_cast<UINT>(length > 0 ? length : 0)));
-  if (!result) throw XmlComError(kStatusOutOfMemory, context);
-  if (length > 0)
-    ::MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), static_cast<int>(text.size()), result.get(), length);
-  return result;
-}
-
-// A BSTR from the host to narrow text in the thread's code page; null is the empty text.
-std::string FromBstr(BSTR text) {
-  const UINT size = ::SysStringLen(text);
-  if (size == 0) return {};
-  const int length = ::WideCharToMultiByte(CP_THREAD_ACP, 0, text, static_cast<int>(size), nullptr, 0, nullptr, nullptr);
-  std::string result(static_cast<std::size_t>(length > 0 ? length : 0), '\0');
-  if (length > 0)
-    ::WideCharToMultiByte(CP_THREAD_ACP, 0, text, static_cast<int>(size), result.data(), length, nullptr, nullptr);
-  return result;
-}
-
-// An owned VARIANT out parameter.
-class OwnedVariant {
- public:
-  OwnedVariant() { ::VariantInit(&value_); }
-  OwnedVariant(const OwnedVariant&) = delete;
-  OwnedVariant& operator=(const OwnedVariant&) = delete;
-  ~OwnedVariant() { ::VariantClear(&value_); }
-  VARIANT* get() { return &value_; }
-
- private:
-  VARIANT value_;
-};
-
 constexpr char kSettingsContext[] = "ISettingsService";
 
 template <class I>
-ComRef<I> Create(const CLSID& clsid, const IID& iid) {
-  void* object = nullptr;
-  if (FAILED(::CoCreateInstance(clsid, nullptr, kHostServiceContext, iid, &object)) || !object) return nullptr;
-  return ComRef<I>(static_cast<I*>(object));
+ComPtr<I> Create(const CLSID& clsid, const IID& iid) {
+  ComPtr<I> object;
+  if (FAILED(::CoCreateInstance(clsid, nullptr, kHostServiceContext, iid, reinterpret_cast<void**>(object.put()))))
+    return nullptr;
+  return object;
 }
 
 class ComSettingsService final : public SettingsService {
  public:
-  explicit ComSettingsService(ComRef<ISettingsService> service) : service_(std::move(service)) {}
+  explicit ComSettingsService(ComPtr<ISettingsService> service) : service_(std::move(service)) {}
   void GetValue(const std::string& section, const std::string& key, std::string& value,
                 std::int32_t& result) override {
-    OwnedBstr sectionText = ToBstr(section, kSettingsContext);
-    OwnedBstr keyText = ToBstr(key, kSettingsContext);
-    OwnedVariant answer;
+    Bstr sectionText = MakeBstr(section);
+    Bstr keyText = MakeBstr(key);
+    Variant answer;
     long status = 0;
-    XmlCheck(service_->GetValue(sectionText.get(), keyText.get(), answer.get(), &status), kSettingsContext);
+    XmlCheck(service_->GetValue(sectionText.get(), keyText.get(), answer.put(), &status), kSettingsContext);
     result = status;
     // Whatever type the host answers with, the program takes its text; empty and null are none.
-    if (answer.get()->vt == VT_EMPTY || answer.get()->vt == VT_NULL) {
+    if (answer.get().vt == VT_EMPTY || answer.get().vt == VT_NULL) {
       value.clear();
       return;
     }
-    OwnedVariant text;
-    XmlCheck(::VariantChangeType(text.get(), answer.get(), 0, VT_BSTR), kSettingsContext);
-    value = FromBstr(text.get()->bstrVal);
+    Variant text;
+    XmlCheck(::VariantChangeType(text.put(), &answer.get(), 0, VT_BSTR), kSettingsContext);
+    value = NarrowFromBstr(text.get().bstrVal);
   }
   void SetValue(const std::string& section, const std::string& key, std::int32_t value, std::int32_t kind,
                 std::int32_t& result) override {
-    OwnedBstr sectionText = ToBstr(section, kSettingsContext);
-    OwnedBstr keyText = ToBstr(key, kSettingsContext);
+    Bstr sectionText = MakeBstr(section);
+    Bstr keyText = MakeBstr(key);
     long status = 0;
     XmlCheck(service_->SetValue(sectionText.get(), keyText.get(), value, kind, &status), kSettingsContext);
     result = status;
@@ -99,26 +56,24 @@ class ComSettingsService final : public SettingsService {
   }
   void GetDocumentValue(const std::string& document, const std::string& xpath, const std::string& attribute,
                         std::int32_t kind, std::string& value, std::int32_t& result) override {
-    OwnedBstr documentText = ToBstr(document, kSettingsContext);
-    OwnedBstr xpathText = ToBstr(xpath, kSettingsContext);
-    OwnedBstr attributeText = ToBstr(attribute, kSettingsContext);
-    BSTR answer = nullptr;
+    Bstr documentText = MakeBstr(document);
+    Bstr xpathText = MakeBstr(xpath);
+    Bstr attributeText = MakeBstr(attribute);
+    Bstr owned;  // freed also when the call failed but gave a text
     long status = 0;
     const HRESULT hr = service_->GetDocumentValue(documentText.get(), xpathText.get(), attributeText.get(), kind,
-                                                  &answer, &status);
-    OwnedBstr owned(answer);  // freed also when the call failed but gave a text
+                                                  owned.put(), &status);
     XmlCheck(hr, kSettingsContext);
-    value = FromBstr(owned.get());
+    value = NarrowFromBstr(owned.get());
     result = status;
   }
   void GetDocumentNode(const std::string& document, const std::string& xpath, XmlNode& node,
                        std::int32_t& result) override {
-    OwnedBstr documentText = ToBstr(document, kSettingsContext);
-    OwnedBstr xpathText = ToBstr(xpath, kSettingsContext);
-    IUnknown* answer = nullptr;
+    Bstr documentText = MakeBstr(document);
+    Bstr xpathText = MakeBstr(xpath);
+    ComPtr<IUnknown> owned;
     long status = 0;
-    const HRESULT hr = service_->GetDocumentNode(documentText.get(), xpathText.get(), &answer, &status);
-    ComRef<IUnknown> owned(answer);
+    const HRESULT hr = service_->GetDocumentNode(documentText.get(), xpathText.get(), owned.put(), &status);
     XmlCheck(hr, kSettingsContext);
     // Anything but a DOM node counts as no node.
     node = XmlWrapUnknown(owned.get());
@@ -126,21 +81,21 @@ class ComSettingsService final : public SettingsService {
   }
 
  private:
-  ComRef<ISettingsService> service_;
+  ComPtr<ISettingsService> service_;
 };
 
 class ComHelpService final : public HelpService {
  public:
-  explicit ComHelpService(ComRef<IHelpService> service) : service_(std::move(service)) {}
+  explicit ComHelpService(ComPtr<IHelpService> service) : service_(std::move(service)) {}
   void ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags, std::int32_t& result) override {
-    OwnedBstr bookText = ToBstr(book, "IHelpService");
+    Bstr bookText = MakeBstr(book);
     long answer = 0;
     XmlCheck(service_->ShowHelp(bookText.get(), topicId, flags, &answer), "IHelpService");
     result = answer;
   }
 
  private:
-  ComRef<IHelpService> service_;
+  ComPtr<IHelpService> service_;
 };
 
 class ComHostServices final : public HostServices {

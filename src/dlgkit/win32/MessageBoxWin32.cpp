@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "com/WideText.h"
 #include "dlgkit/MessageBox.h"
 #include "dlgkit/MessageBoxLayout.h"
 #include "dlgkit/OrvDialog.h"
@@ -16,14 +17,6 @@
 namespace {
 
 using orv::MessageBoxStyle;
-
-std::wstring Wide(std::string_view text) {
-  if (text.empty()) return {};
-  const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-  std::wstring out(static_cast<std::size_t>(length > 0 ? length : 0), L'\0');
-  if (length > 0) MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()), out.data(), length);
-  return out;
-}
 
 // A DLGTEMPLATE with its items, DWORD-aligned where the format asks.
 class TemplateWriter {
@@ -37,7 +30,7 @@ class TemplateWriter {
     Word(0);  // the dialog class
     Text(caption);
     Word(static_cast<WORD>(orv::kMessageBoxFontPoints));
-    Text(Wide(orv::kMessageBoxFontFace));
+    Text(orv::Widen(orv::kMessageBoxFontFace));
   }
   void Item(DWORD style, const orv::DialogUnitRect& rect, int id, WORD atom, const std::wstring& text) {
     Align();
@@ -82,13 +75,13 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
     TemplateWriter t;
     const int items = static_cast<int>(style_.buttons.size()) + 1 + (icon ? 1 : 0);
     t.Dialog(DS_SETFONT | DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU, items,
-             {0, 0, layout.cx, layout.cy}, Wide(caption_));
+             {0, 0, layout.cx, layout.cy}, orv::Widen(caption_));
     if (icon) t.Item(SS_ICON, layout.icon, orv::kMessageBoxIconId, kStaticAtom, L"");
     t.Item(SS_LEFT | SS_NOPREFIX, layout.text, orv::kMessageBoxTextId, kStaticAtom, L"");
     for (std::size_t i = 0; i < style_.buttons.size(); ++i) {
       const bool isDefault = static_cast<int>(i) == style_.defaultIndex;
       t.Item((isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP | (i == 0 ? WS_GROUP : 0),
-             layout.buttons[i], style_.buttons[i].id, kButtonAtom, Wide(style_.buttons[i].text));
+             layout.buttons[i], style_.buttons[i].id, kButtonAtom, orv::Widen(style_.buttons[i].text));
     }
     textRoom_ = layout.textRoom;
 
@@ -189,7 +182,7 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
     RECT client;
     GetClientRect(window, &client);
 
-    const std::wstring wide = Wide(text_);
+    const std::wstring wide = orv::Widen(text_);
     RECT measured = {0, 0, textRect.right - textRect.left, 0};
     if (!wide.empty()) {
       HDC dc = GetDC(text);
@@ -270,7 +263,7 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
   }
 
   void CopyToClipboard(HWND box) {
-    const std::wstring text = Wide(orv::MessageBoxClipboardText(caption_, text_, style_));
+    const std::wstring text = orv::Widen(orv::MessageBoxClipboardText(caption_, text_, style_));
     if (!OpenClipboard(box)) return;
     EmptyClipboard();
     const SIZE_T bytes = (text.size() + 1) * sizeof(wchar_t);

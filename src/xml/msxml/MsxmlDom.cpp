@@ -8,7 +8,8 @@
 
 #include "xml/Dom.h"
 #include "xml/XmlError.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
+#include "com/WideText.h"
 #include "xml/msxml/MsxmlGuids.h"
 #include "xml/msxml/XmlMsxml.h"
 
@@ -32,30 +33,6 @@ Node Wrap(ComPtr<IXMLDOMNode> node) {
   impl->node = std::move(node);
   return impl;
 }
-
-Bstr Widen(std::string_view text) {
-  Bstr wide;
-  if (text.size() > 0x3FFFFFFF) throw XmlComError(kStatusOutOfMemory, "text too long");
-  const int inLength = static_cast<int>(text.size());
-  const int length = text.empty() ? 0 : MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), inLength, nullptr, 0);
-  if (!text.empty() && length == 0) throw XmlComError(kStatusInvalidArg, "MultiByteToWideChar");
-  *wide.put() = SysAllocStringLen(nullptr, static_cast<UINT>(length));
-  if (wide.get() == nullptr) throw XmlComError(kStatusOutOfMemory, "SysAllocStringLen");
-  if (length > 0) MultiByteToWideChar(CP_THREAD_ACP, 0, text.data(), inLength, wide.get(), length);
-  return wide;
-}
-
-std::string Narrow(const wchar_t* text, UINT size) {
-  if (text == nullptr || size == 0) return {};
-  const int inLength = static_cast<int>(size);
-  const int length = WideCharToMultiByte(CP_THREAD_ACP, 0, text, inLength, nullptr, 0, nullptr, nullptr);
-  if (length == 0) throw XmlComError(kStatusInvalidArg, "WideCharToMultiByte");
-  std::string narrow(static_cast<std::size_t>(length), '\0');
-  WideCharToMultiByte(CP_THREAD_ACP, 0, text, inLength, narrow.data(), length, nullptr, nullptr);
-  return narrow;
-}
-
-std::string Narrow(const Bstr& text) { return Narrow(text.get(), text.size()); }
 
 ComPtr<IXMLDOMNode> FirstChildOf(IXMLDOMNode* node) {
   ComPtr<IXMLDOMNode> child;
@@ -126,14 +103,14 @@ HRESULT CreateOnce(ComPtr<IXMLDOMDocument2>& document) {
 std::string NodeName(const NodeImpl& impl) {
   Bstr name;
   Check(impl.node->get_nodeName(name.put()), "IXMLDOMNode::get_nodeName");
-  return Narrow(name);
+  return NarrowFromBstr(name.get());
 }
 
 std::string NodeValue(const NodeImpl& impl) {
   Variant value;
   Check(impl.node->get_nodeValue(value.put()), "IXMLDOMNode::get_nodeValue");
   if (value.get().vt != VT_BSTR) return {};  // VT_NULL for elements and documents
-  return Narrow(value.get().bstrVal, SysStringLen(value.get().bstrVal));
+  return NarrowFromBstr(value.get().bstrVal);
 }
 
 bool IsDocument(const NodeImpl& impl) { return TypeOf(impl.node.get()) == NODE_DOCUMENT; }
@@ -153,7 +130,7 @@ Node NamedAttribute(const NodeImpl& impl, const char* name) {
   Check(impl.node->get_attributes(attributes.put()), "IXMLDOMNode::get_attributes");
   if (!attributes) return nullptr;  // no element
   ComPtr<IXMLDOMNode> attribute;
-  Check(attributes->getNamedItem(Widen(name).get(), attribute.put()), "IXMLDOMNamedNodeMap::getNamedItem");
+  Check(attributes->getNamedItem(MakeBstr(name).get(), attribute.put()), "IXMLDOMNamedNodeMap::getNamedItem");
   return Wrap(std::move(attribute));
 }
 
@@ -163,14 +140,14 @@ void SetAttribute(const NodeImpl& impl, const char* name, std::string_view value
   if (status != E_NOINTERFACE) Check(status, "QueryInterface IXMLDOMElement");
   if (!element) throw XmlComError(kStatusPointer, "setAttribute: not an element");
   Variant text;
-  text.SetBstr(Widen(value));
-  Check(element->setAttribute(Widen(name).get(), text.get()), "IXMLDOMElement::setAttribute");
+  text.SetBstr(MakeBstr(value));
+  Check(element->setAttribute(MakeBstr(name).get(), text.get()), "IXMLDOMElement::setAttribute");
 }
 
 Node AppendElement(const NodeImpl& parent, const char* name) {
   ComPtr<IXMLDOMDocument2> document = FactoryOf(*parent.node.get());
   ComPtr<IXMLDOMElement> element;
-  Check(document->createElement(Widen(name).get(), element.put()), "IXMLDOMDocument::createElement");
+  Check(document->createElement(MakeBstr(name).get(), element.put()), "IXMLDOMDocument::createElement");
   if (!element) throw XmlComError(kStatusPointer, "IXMLDOMDocument::createElement");
   Append(parent.node.get(), element.get());
   ComPtr<IXMLDOMNode> node;
@@ -181,7 +158,7 @@ Node AppendElement(const NodeImpl& parent, const char* name) {
 Node AppendText(const NodeImpl& parent, std::string_view text) {
   ComPtr<IXMLDOMDocument2> document = FactoryOf(*parent.node.get());
   ComPtr<IXMLDOMText> node;
-  Check(document->createTextNode(Widen(text).get(), node.put()), "IXMLDOMDocument::createTextNode");
+  Check(document->createTextNode(MakeBstr(text).get(), node.put()), "IXMLDOMDocument::createTextNode");
   if (!node) throw XmlComError(kStatusPointer, "IXMLDOMDocument::createTextNode");
   return Append(parent.node.get(), node.get());
 }
@@ -196,7 +173,7 @@ Node AppendClone(const NodeImpl& destination, const NodeImpl& source, bool deep)
 std::string NodeXml(const NodeImpl& impl) {
   Bstr xml;
   Check(impl.node->get_xml(xml.put()), "IXMLDOMNode::get_xml");
-  return Narrow(xml);
+  return NarrowFromBstr(xml.get());
 }
 
 Node CreateDocument() {
@@ -215,8 +192,8 @@ Node CreateDocument() {
   Check(document->put_async(VARIANT_FALSE), "IXMLDOMDocument::put_async");
   Check(document->put_validateOnParse(VARIANT_FALSE), "IXMLDOMDocument::put_validateOnParse");
   Variant language;
-  language.SetBstr(Widen("XPath"));
-  Bstr property = Widen("SelectionLanguage");
+  language.SetBstr(MakeBstr("XPath"));
+  Bstr property = MakeBstr("SelectionLanguage");
   Check(document->setProperty(property.get(), language.get()), "IXMLDOMDocument2::setProperty");
   ComPtr<IXMLDOMNode> node;
   Check(document.As(kIID_IXMLDOMNode, node), "QueryInterface IXMLDOMNode");
@@ -225,7 +202,7 @@ Node CreateDocument() {
 
 bool LoadXml(const NodeImpl& document, std::string_view text) {
   VARIANT_BOOL loaded = VARIANT_FALSE;
-  Check(DocumentOf(document)->loadXML(Widen(text).get(), &loaded), "IXMLDOMDocument::loadXML");
+  Check(DocumentOf(document)->loadXML(MakeBstr(text).get(), &loaded), "IXMLDOMDocument::loadXML");
   return loaded == VARIANT_TRUE;
 }
 

@@ -2,6 +2,7 @@
 // objects through their interfaces, then reached by the component's own client code (prompts,
 // the colour table, the theme, help), which creates them by class id as in a real host.
 #include "HostServiceObjects.h"
+#include "com/WideText.h"
 #include "Options.h"
 
 #include <gtest/gtest.h>
@@ -66,11 +67,11 @@ protected:
 TEST_F(OrvhostServices, SettingsServiceAnswersFromItsDocuments)
 {
     const ComPtr<ISettingsService> service = MakeSettingsService(settings);
-    Bstr language = Bstr::Attach(SysAllocString(L"language"));
-    Bstr found = Bstr::Attach(SysAllocString(L"//Language/Prompts/Prompt[@Tag=\"OK\"]"));
-    Bstr missing = Bstr::Attach(SysAllocString(L"//Language/Prompts/Prompt[@Tag=\"No\"]"));
-    Bstr tagAttribute = Bstr::Attach(SysAllocString(L"Tag"));
-    Bstr none = Bstr::Attach(SysAllocString(L""));
+    Bstr language = MakeBstr(L"language");
+    Bstr found = MakeBstr(L"//Language/Prompts/Prompt[@Tag=\"OK\"]");
+    Bstr missing = MakeBstr(L"//Language/Prompts/Prompt[@Tag=\"No\"]");
+    Bstr tagAttribute = MakeBstr(L"Tag");
+    Bstr none = MakeBstr(L"");
     Bstr value;
     LONG result = -1;
     ASSERT_EQ(service->GetDocumentValue(language.get(), found.get(), none.get(), 17, value.put(), &result), S_OK);
@@ -81,7 +82,7 @@ TEST_F(OrvhostServices, SettingsServiceAnswersFromItsDocuments)
     ASSERT_EQ(service->GetDocumentValue(language.get(), missing.get(), none.get(), 17, value.put(), &result), S_OK);
     EXPECT_EQ(result, 1);
     EXPECT_EQ(value.size(), 0u);
-    Bstr unknown = Bstr::Attach(SysAllocString(L"NOSUCHDOC"));
+    Bstr unknown = MakeBstr(L"NOSUCHDOC");
     ASSERT_EQ(service->GetDocumentValue(unknown.get(), found.get(), none.get(), 17, value.put(), &result), S_OK);
     EXPECT_EQ(result, 1);
     EXPECT_EQ(service->GetDocumentValue(language.get(), found.get(), none.get(), 17, nullptr, &result), E_POINTER);
@@ -95,15 +96,15 @@ TEST_F(OrvhostServices, SettingsServiceAnswersFromItsDocuments)
     EXPECT_EQ(theme[2], 7);
     EXPECT_EQ(theme[3], 0);  // the document gives three
 
-    Bstr section = Bstr::Attach(SysAllocString(L"LinePpgX"));
-    Bstr key = Bstr::Attach(SysAllocString(L"Caption"));
+    Bstr section = MakeBstr(L"LinePpgX");
+    Bstr key = MakeBstr(L"Caption");
     Variant answer;
     ASSERT_EQ(service->GetValue(section.get(), key.get(), answer.put(), &result), S_OK);
     EXPECT_EQ(result, 0);
     ASSERT_EQ(answer.get().vt, VT_BSTR);
     EXPECT_EQ(std::wstring(answer.get().bstrVal), L"Lines");
-    Bstr seasonal = Bstr::Attach(SysAllocString(L"Displays/Seasonal"));
-    Bstr byWizard = Bstr::Attach(SysAllocString(L"ByWizard"));
+    Bstr seasonal = MakeBstr(L"Displays/Seasonal");
+    Bstr byWizard = MakeBstr(L"ByWizard");
     ASSERT_EQ(service->SetValue(seasonal.get(), byWizard.get(), 1, 4, &result), S_OK);
     ASSERT_EQ(service->GetValue(seasonal.get(), byWizard.get(), answer.put(), &result), S_OK);
     EXPECT_EQ(std::wstring(answer.get().bstrVal), L"1");
@@ -159,8 +160,8 @@ TEST_F(OrvhostServices, NoThemeWithoutOneInPrefs)
     LONG result = 0;
     ASSERT_EQ(service->GetTheme(theme, 0, &result), S_OK);
     EXPECT_EQ(result, 1);
-    Bstr prefs = Bstr::Attach(SysAllocString(L"PREFS"));
-    Bstr table = Bstr::Attach(SysAllocString(L"//General/ColorTable"));
+    Bstr prefs = MakeBstr(L"PREFS");
+    Bstr table = MakeBstr(L"//General/ColorTable");
     IUnknown* node = reinterpret_cast<IUnknown*>(1);
     ASSERT_EQ(service->GetDocumentNode(prefs.get(), table.get(), &node, &result), S_OK);
     EXPECT_EQ(node, nullptr);

@@ -3,7 +3,7 @@
 #include "ComObjects.h"
 #include "Options.h"
 #include "Script.h"
-#include "SyntheticChart.h"
+#include "com/WideText.h"
 
 #include <gtest/gtest.h>
 
@@ -121,29 +121,13 @@ TEST(OrvhostScript, BadScriptsNameTheCommandAndTheFault)
     }
 }
 
-TEST(OrvhostCalendar, DayNumbersAndWeekdays)
-{
-    EXPECT_EQ(DayNumberFromCivil(1900, 1, 1), 0);
-    EXPECT_EQ(DayNumberFromCivil(1998, 7, 27), 36001); // the control points' default date
-    EXPECT_EQ(DayNumberFromCivil(2024, 6, 28), 45469);
-    EXPECT_EQ(WeekdayOf(0), 1);     // Monday
-    EXPECT_EQ(WeekdayOf(45469), 5); // Friday
-    int y = 0, m = 0, d = 0;
-    CivilFromDayNumber(DayNumberFromCivil(2000, 2, 29), y, m, d);
-    EXPECT_EQ(y * 10000 + m * 100 + d, 20000229);
-    EXPECT_FALSE(IsTradingDay(DayNumberFromCivil(2023, 12, 25))); // Monday, Christmas
-    EXPECT_FALSE(IsTradingDay(DayNumberFromCivil(2023, 7, 4)));
-    EXPECT_FALSE(IsTradingDay(DayNumberFromCivil(2024, 6, 29)));  // Saturday
-    EXPECT_TRUE(IsTradingDay(DayNumberFromCivil(2023, 12, 26)));
-}
-
 // The chart as the component sees it: through the IChartData vtable.
 class OrvhostChartData : public testing::TestWithParam<bool> {};
 
 TEST_P(OrvhostChartData, PositionsAndDatesAgreeAndPricesAreBars)
 {
     const bool intraday = GetParam();
-    const ComPtr<IChartData> chart = MakeChartData(intraday ? SyntheticChart::Intraday() : SyntheticChart::Daily());
+    const ComPtr<IChartData> chart = MakeChartData(HostChart(intraday));
     LONG kind = -1, count = 0;
     ASSERT_EQ(chart->GetTimeKind(&kind), S_OK);
     EXPECT_EQ(kind, intraday ? 1 : 0);
@@ -156,7 +140,7 @@ TEST_P(OrvhostChartData, PositionsAndDatesAgreeAndPricesAreBars)
         ASSERT_EQ(chart->PosToDate(pos, &date, &time, &seconds, 0, 0), S_OK);
         ASSERT_EQ(chart->PosToDateOnly(pos, &only, 0), S_OK);
         EXPECT_EQ(only, date);
-        EXPECT_TRUE(IsTradingDay(date)) << pos;
+        EXPECT_TRUE(SyntheticChartData::IsTradingDay(date)) << pos;
         if (intraday) {
             EXPECT_EQ(time, seconds / 60);
             EXPECT_TRUE(date > previousDate || seconds > previousSeconds) << pos;
@@ -197,20 +181,20 @@ INSTANTIATE_TEST_SUITE_P(DailyAndIntraday, OrvhostChartData, testing::Values(fal
 
 TEST(OrvhostChartData, DatesBetweenBarsFindTheNextBar)
 {
-    const ComPtr<IChartData> chart = MakeChartData(SyntheticChart::Daily());
+    const ComPtr<IChartData> chart = MakeChartData(HostChart(false));
     LONG pos = -7, exact = -7;
     // Saturday 22 June 2024: the next bar is Monday 24 June.
-    ASSERT_EQ(chart->DateToPos(DayNumberFromCivil(2024, 6, 22), 0, 0, 0, &exact, &pos), S_OK);
+    ASSERT_EQ(chart->DateToPos(SyntheticChartData::DayNumber(2024, 6, 22), 0, 0, 0, &exact, &pos), S_OK);
     LONG date = 0;
     ASSERT_EQ(chart->PosToDateOnly(pos, &date, 0), S_OK);
-    EXPECT_EQ(date, DayNumberFromCivil(2024, 6, 24));
+    EXPECT_EQ(date, SyntheticChartData::DayNumber(2024, 6, 24));
     EXPECT_EQ(exact, 0);
     // Christmas 2023, a Monday: Tuesday's bar.
-    ASSERT_EQ(chart->DateToPos(DayNumberFromCivil(2023, 12, 25), 0, 0, 0, nullptr, &pos), S_OK);
+    ASSERT_EQ(chart->DateToPos(SyntheticChartData::DayNumber(2023, 12, 25), 0, 0, 0, nullptr, &pos), S_OK);
     ASSERT_EQ(chart->PosToDateOnly(pos, &date, 0), S_OK);
-    EXPECT_EQ(date, DayNumberFromCivil(2023, 12, 26));
+    EXPECT_EQ(date, SyntheticChartData::DayNumber(2023, 12, 26));
     // After the last bar: none.
-    EXPECT_LT(chart->DateToPos(DayNumberFromCivil(2024, 7, 1), 0, 0, 0, &exact, &pos), 0);
+    EXPECT_LT(chart->DateToPos(SyntheticChartData::DayNumber(2024, 7, 1), 0, 0, 0, &exact, &pos), 0);
     EXPECT_EQ(pos, -1);
     // Before the first bar: the first.
     ASSERT_EQ(chart->DateToPos(0, 0, 0, 0, &exact, &pos), S_OK);
@@ -228,9 +212,8 @@ TEST(OrvhostEvents, EscapingKeepsOneEventOnOneLineAndReadable)
 // Fires a StatusEvent into the sink as the component does: five positional arguments, last first.
 HRESULT Fire(IDispatch* sink, DISPID id, const wchar_t* value, LONG& answer, UINT count = 5)
 {
-    Bstr text, extra;
-    *text.put() = SysAllocString(value);
-    *extra.put() = SysAllocString(L"");
+    Bstr text = MakeBstr(value);
+    Bstr extra = MakeBstr(L"");
     VARIANT args[5];
     for (VARIANT& v : args) VariantInit(&v);
     args[4].vt = VT_I4; args[4].lVal = 0;

@@ -5,6 +5,7 @@
 #include <oleauto.h>
 
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
 namespace orv {
@@ -17,6 +18,9 @@ class ComPtr {
   ComPtr(std::nullptr_t) noexcept {}
   ComPtr(const ComPtr& other) noexcept : p_(other.p_) { AddRef(); }
   ComPtr(ComPtr&& other) noexcept : p_(std::exchange(other.p_, nullptr)) {}
+  // From a pointer to a derived class (an object to one of its interfaces).
+  template <typename U, typename = std::enable_if_t<std::is_convertible_v<U*, T*>>>
+  ComPtr(ComPtr<U> other) noexcept : p_(other.release()) {}
   ComPtr& operator=(ComPtr other) noexcept {
     std::swap(p_, other.p_);
     return *this;
@@ -47,6 +51,8 @@ class ComPtr {
   void reset() noexcept {
     if (p_ != nullptr) std::exchange(p_, nullptr)->Release();
   }
+  // Gives up the reference without releasing it.
+  T* release() noexcept { return std::exchange(p_, nullptr); }
 
   // QueryInterface into `out`; returns the status.
   template <typename U>
