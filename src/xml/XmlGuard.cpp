@@ -62,7 +62,7 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
   return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-           return (x | 0x20) == (y | 0x20) && IsAsciiLetter(x) == IsAsciiLetter(y);
+           return x == y || (IsAsciiLetter(x) && IsAsciiLetter(y) && (x | 0x20) == (y | 0x20));
          });
 }
 

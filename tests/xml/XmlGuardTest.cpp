@@ -105,6 +105,8 @@ INSTANTIATE_TEST_SUITE_P(
         VerdictCase{"<?xml version=\"1.0\" standalone=\"yes\" encoding=\"UTF-8\"?><a/>", XmlTextVerdict::Malformed},
         VerdictCase{"<?xml version=\"1.\"?><a/>", XmlTextVerdict::Malformed},
         VerdictCase{"<?xml version=\"1.0\" encoding=\"latin1\"?><a/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<?xml version=\"1.0\" encoding=\"uTf\r8\"?><a/>", XmlTextVerdict::Malformed},
+        VerdictCase{"<?xml version=\"1.0\" encoding=\"uTf-8\"?><a/>", XmlTextVerdict::Acceptable},
         VerdictCase{" <?xml version=\"1.0\"?><a/>", XmlTextVerdict::Malformed},
         VerdictCase{"<a/><?XmL x?>", XmlTextVerdict::Malformed},
         VerdictCase{"<?xml-stylesheet x?><?xmlfoo?><a/>", XmlTextVerdict::Acceptable},
