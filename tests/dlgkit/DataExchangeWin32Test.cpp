@@ -105,7 +105,7 @@ TEST(DataExchangeWin32, MovesValuesBothWaysThroughRealControls) {
   RunExchangeDialog(page);
 }
 
-// The table of HeadlessRunnerTest's CheckStatesAreWhatTheBoxCanHold, on real buttons: what a
+// The table of FakeControlsTest's CheckStatesAreWhatTheBoxCanHold, on real buttons: what a
 // two-state and a three-state box keep of each state, and where a click takes them.
 TEST(DataExchangeWin32, CheckStatesAreWhatTheBoxCanHold) {
   struct Case {

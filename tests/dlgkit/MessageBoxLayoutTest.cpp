@@ -36,22 +36,6 @@ TEST(MessageBoxStyle, ButtonsAndCancelByTheLowBits) {
   EXPECT_STREQ(MessageBoxStyleFromFlags(6).buttons[1].text, "&Try Again");
 }
 
-TEST(MessageBoxStyle, IconAndDefaultButton) {
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x00).iconResource, 0);
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x10).iconResource, 32513);
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x20).iconResource, 32514);
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x30).iconResource, 32515);
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x40).iconResource, 32516);
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x50).iconResource, 0);
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x70).iconResource, 0);
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x003).defaultIndex, 0);
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x103).defaultIndex, 1);
-  EXPECT_EQ(MessageBoxStyleFromFlags(0x203).defaultIndex, 2);
-  // The third of two buttons: none is marked.
-  const auto twoButtons = MessageBoxStyleFromFlags(0x204);
-  EXPECT_GE(twoButtons.defaultIndex, static_cast<int>(twoButtons.buttons.size()));
-}
-
 TEST(MessageBoxTemplate, SizesAndPlacesInDialogUnits) {
   const auto plain = orv::MessageBoxTemplateFor(MessageBoxStyleFromFlags(4));
   EXPECT_EQ(plain.cx, 2 * 55 + 25);

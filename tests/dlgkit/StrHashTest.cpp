@@ -67,12 +67,4 @@ TEST(TStrHash, NullKeyIsAFatalError) {
   EXPECT_TRUE(map.IsEmpty());
 }
 
-TEST(TStrHash, DestroysThroughItsBase) {
-  static_assert(std::has_virtual_destructor_v<THashX<CString, int, CStringTraits>>);
-  // The destructor is the only virtual: one vtable pointer over the map.
-  static_assert(sizeof(TStrHash<int>) == sizeof(void*) + sizeof(THashX<CString, int, CStringTraits>::Map));
-  std::unique_ptr<THashX<CString, int, CStringTraits>> base = std::make_unique<TStrHash<int>>();
-  EXPECT_TRUE(base->IsEmpty());
-}
-
 }  // namespace

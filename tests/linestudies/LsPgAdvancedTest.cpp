@@ -126,26 +126,4 @@ TEST_F(AdvancedOnSheet, OtherKindsHideScreenChoice) {
   EXPECT_THROW(controls.Click(IDC_LS_ATTACH_SCREEN), std::logic_error) << "a hidden choice can't be clicked";
 }
 
-TEST_F(AdvancedOnSheet, ClickMarksChangedAndLeavingSendsOnceThenClears) {
-  Open(" Kind=\"6\"", "");
-  controls.Click(IDC_LS_ATTACH_SCREEN);
-  EXPECT_TRUE(page.IsDirty());
-  EXPECT_TRUE(controls.IsSheetChanged());
-  EXPECT_TRUE(runner.PressApply());
-  EXPECT_EQ(applies, std::vector<int>{1352});
-  EXPECT_FALSE(page.IsDirty());
-  EXPECT_EQ(page.AttachValue(), CLsPgAdvanced::kAttachScreen);
-  // Apply's own step does nothing: the kill-active step already sent it.
-  EXPECT_EQ(page.OnApply(), orv::ApplyResult::NoError);
-  EXPECT_TRUE(runner.PressOk());
-  EXPECT_EQ(applies, std::vector<int>{1352});
-}
-
-TEST_F(AdvancedOnSheet, HelpAsksForTheBookAndThePage) {
-  Open("", "");
-  EXPECT_TRUE(page.OnHelp());
-  ASSERT_EQ(controls.HelpRequests().size(), 1u);
-  EXPECT_EQ(controls.HelpRequests()[0], (std::pair<std::string, int>{"CHARTX", 1352}));
-}
-
 }  // namespace

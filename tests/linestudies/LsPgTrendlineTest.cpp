@@ -128,23 +128,6 @@ TEST(LsTrendlinePages, EachPageSendsBackWhatItReadWithTheUsersChange) {
   }
 }
 
-TEST(LsTrendlinePages, PageTableBuildsEachPageWithItsDialogAndGivesItTheChart) {
-  for (const auto& info : orv::LsPageTable()) {
-    bool family = false;
-    for (int id : lstest::kTrendlineDialogs) family = family || id == info.dialogId;
-    if (!family) continue;
-    ASSERT_NE(info.create, nullptr) << info.name;
-    auto page = info.create();
-    EXPECT_EQ(page->AsPage().DialogId(), info.dialogId) << info.name;
-    EXPECT_TRUE(info.takesChartData) << info.name;
-    auto* base = dynamic_cast<CLsPgBase*>(page.get());
-    ASSERT_NE(base, nullptr) << info.name;
-    auto chart = SyntheticChartData::Daily(5);
-    page->SetChartData(chart);
-    EXPECT_EQ(base->Chart(), chart) << info.name;
-  }
-}
-
 TEST(LsTrendlinePages, TheSheetHandsTheChartToPositionPagesOnlyAndReplacesAnEarlierOne) {
   FakeSheetOwner owner;
   CLsPs<FakeSheetOwner> sheet(&owner);
