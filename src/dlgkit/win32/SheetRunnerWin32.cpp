@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dlgkit/Controls.h"
+#include "dlgkit/HostServices.h"
 #include "dlgkit/WindowOps.h"
 #include "dlgkit/win32/DialogHost.h"
 #include "xml/XmlError.h"
@@ -108,6 +109,9 @@ std::intptr_t SheetRunnerWin32::Run(const SheetSetup& setup) {
   // registered: registered here, in the activation context the sheet runs in.
   INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_UPDOWN_CLASS};
   ::InitCommonControlsEx(&classes);
+  // The sheet and each of its pages load the theme; a host without a settings service is asked
+  // for one once in this open, not once per window.
+  OneOpenHostServices host;
   SheetRun run;
   run.setup = &setup;
   const HINSTANCE module = setup.resourceModule ? static_cast<HINSTANCE>(setup.resourceModule) : KitModule();
