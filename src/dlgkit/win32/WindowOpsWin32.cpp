@@ -66,10 +66,15 @@ class Win32WindowOps final : public WindowOps {
     return ::SetBkColor(D(dc), color);
   }
   int GetDisplayLogPixelsY() override {
-    HDC dc = ::CreateDCA("DISPLAY", nullptr, nullptr, nullptr);
-    if (!dc) return 96;
-    int dpi = ::GetDeviceCaps(dc, LOGPIXELSY);
-    ::DeleteDC(dc);
+    // The system's DPI, which a process sees fixed from its start (a change takes a new logon):
+    // the "DISPLAY" device is asked once, not at every dialog and theme load.
+    static const int dpi = [] {
+      HDC dc = ::CreateDCA("DISPLAY", nullptr, nullptr, nullptr);
+      if (!dc) return 96;
+      const int answer = ::GetDeviceCaps(dc, LOGPIXELSY);
+      ::DeleteDC(dc);
+      return answer;
+    }();
     return dpi;
   }
   bool SubclassWindow(WindowHandle window, COrvThemedControl& control) override {
