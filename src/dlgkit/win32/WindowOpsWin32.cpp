@@ -8,6 +8,7 @@
 
 #include "dlgkit/ThemedControls.h"
 #include "dlgkit/win32/ThemedControlsWin32.h"
+#include "dlgkit/win32/WindowSubclass.h"
 
 namespace orv {
 namespace {
@@ -78,12 +79,11 @@ class Win32WindowOps final : public WindowOps {
     return dpi;
   }
   bool SubclassWindow(WindowHandle window, COrvThemedControl& control) override {
-    return ::SetWindowSubclass(H(window), ThemedControlSubclassProc, kThemedControlSubclassId,
-                               reinterpret_cast<DWORD_PTR>(&control)) != FALSE;
+    return SubclassWindowProc(H(window), &ThemedControlSubclassProc, &control);
   }
   void UnsubclassWindow(WindowHandle window, COrvThemedControl&) override {
     if (::IsWindow(H(window)))
-      ::RemoveWindowSubclass(H(window), ThemedControlSubclassProc, kThemedControlSubclassId);
+      RemoveWindowSubclassProc(H(window), &ThemedControlSubclassProc);
   }
   int MeasureListBoxHorizontalExtent(WindowHandle listBox) override {
     HWND list = H(listBox);
