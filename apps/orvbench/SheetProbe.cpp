@@ -184,10 +184,11 @@ double NowMs()
     return static_cast<double>(now.QuadPart) / perMs;
 }
 
-SheetProbe::SheetProbe()
+SheetProbe::SheetProbe(bool detailed) : detailed_(detailed)
 {
     const DWORD thread = GetCurrentThreadId();
     getMessage_ = SetWindowsHookExW(WH_GETMESSAGE, &GetMessageProc, nullptr, thread);
+    if (!detailed) return;
     callWndProc_ = SetWindowsHookExW(WH_CALLWNDPROC, &CallWndProc, nullptr, thread);
     callWndProcRet_ = SetWindowsHookExW(WH_CALLWNDPROCRET, &CallWndProcRet, nullptr, thread);
     cbt_ = SetWindowsHookExW(WH_CBT, &CbtProc, nullptr, thread);
@@ -202,7 +203,8 @@ SheetProbe::~SheetProbe()
 
 bool SheetProbe::Installed() const
 {
-    return getMessage_ != nullptr && callWndProc_ != nullptr && callWndProcRet_ != nullptr && cbt_ != nullptr;
+    return getMessage_ != nullptr &&
+           (!detailed_ || (callWndProc_ != nullptr && callWndProcRet_ != nullptr && cbt_ != nullptr));
 }
 
 void SheetProbe::Begin(Tracing tracing)

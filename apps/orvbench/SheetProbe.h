@@ -14,9 +14,11 @@ namespace orv::bench {
 
 // Milliseconds from Begin(); negative for a moment that never came.
 struct SheetTimes {
+    // With a detailed probe only:
     double sheetCreated = -1;   // the sheet's top-level window is being made
     double pageInitBegin = -1;  // the first page receives WM_INITDIALOG
     double pageInitEnd = -1;    // ... and has answered it
+    // Always:
     double firstPaint = -1;     // the first page takes its first WM_PAINT
     double painted = -1;        // after it, the thread has nothing left to paint: Cancel is pressed
     double closed = -1;         // the call that ran the sheet has returned (End())
@@ -33,8 +35,11 @@ struct ProbeState;
 
 class SheetProbe {
 public:
-    // Installs the hooks on the calling thread; one probe per thread at a time.
-    SheetProbe();
+    // Installs the hooks on the calling thread; one probe per thread at a time. Only the hook
+    // on the queue is needed to see the paint; `detailed` adds hooks on creation and on every
+    // sent message, for the phases and the traces. Those cost each message a little (under Wine
+    // a call to the server), so timings without them are the ones to compare.
+    explicit SheetProbe(bool detailed);
     ~SheetProbe();
     SheetProbe(const SheetProbe&) = delete;
     SheetProbe& operator=(const SheetProbe&) = delete;
@@ -51,6 +56,7 @@ public:
     SheetTimes End();
 
 private:
+    bool detailed_;
     HHOOK getMessage_ = nullptr;
     HHOOK callWndProc_ = nullptr;
     HHOOK callWndProcRet_ = nullptr;

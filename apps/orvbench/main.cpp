@@ -329,16 +329,18 @@ int Run(const std::vector<std::wstring>& args)
          }},
     };
 
-    SheetProbe probe;
-    if (!probe.Installed()) {
+    // The phases need the detailed hooks, which cost every message a little: with --phases the
+    // rounds are timed with them, else without. A trace always has them.
+    auto probe = std::make_unique<SheetProbe>(options.phases);
+    if (!probe->Installed()) {
         std::fprintf(stderr, "orvbench: cannot install the window hooks (error %lu)\n", GetLastError());
         return 1;
     }
     // One open of one subject; false when it wasn't shown or never painted.
     const auto measure = [&probe](Subject& subject, bool keep) {
-        probe.Begin();
+        probe->Begin();
         const long result = subject.open();
-        const SheetTimes times = probe.End();
+        const SheetTimes times = probe->End();
         if (result < 0 || times.painted < 0) {
             std::fprintf(stderr, "orvbench: the %s sheet %s\n", subject.name,
                          result < 0 ? "could not be shown" : "closed before its first page painted");
@@ -385,12 +387,14 @@ int Run(const std::vector<std::wstring>& args)
         std::fflush(stdout);
     }
     if (options.trace != SheetProbe::Tracing::None) {
+        probe.reset();  // one probe per thread
+        probe = std::make_unique<SheetProbe>(true);
         for (Subject& subject : subjects) {
-            probe.Begin(options.trace);
+            probe->Begin(options.trace);
             subject.open();
-            probe.End();
+            probe->End();
             std::printf("trace of one open: %s\n", subject.name);
-            for (const TraceEvent& event : probe.Trace()) std::printf("  %9.3f %s\n", event.at, event.what.c_str());
+            for (const TraceEvent& event : probe->Trace()) std::printf("  %9.3f %s\n", event.at, event.what.c_str());
         }
     }
 
