@@ -83,11 +83,11 @@ void Cancel(ProbeState& state, bool settled)
     PostMessageW(state.sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
 }
 
-void NoteMessage(ProbeState& state, const char* how, const MSG& message)
+void NoteMessage(ProbeState& state, const char* how, HWND window, UINT message)
 {
     char what[32];
-    std::snprintf(what, sizeof what, "%s 0x%04X", how, message.message);
-    Note(state, message.hwnd, what);
+    std::snprintf(what, sizeof what, "%s 0x%04X", how, message);
+    Note(state, window, what);
 }
 
 LRESULT CALLBACK GetMessageProc(int code, WPARAM wParam, LPARAM lParam)
@@ -96,7 +96,7 @@ LRESULT CALLBACK GetMessageProc(int code, WPARAM wParam, LPARAM lParam)
     if (code == HC_ACTION && wParam == PM_REMOVE && state != nullptr && !state->cancelled) {
         auto* message = reinterpret_cast<MSG*>(lParam);
         if (state->allMessages && message->message != kPaintedMarker && message->message != WM_PAINT)
-            NoteMessage(*state, "posted", *message);
+            NoteMessage(*state, "posted", message->hwnd, message->message);
         if (message->message == WM_PAINT && message->hwnd != nullptr) {
             Note(*state, message->hwnd, "WM_PAINT");
             if (state->times.firstPaint < 0 && IsPage(message->hwnd)) {
@@ -124,7 +124,7 @@ LRESULT CALLBACK CallWndProc(int code, WPARAM wParam, LPARAM lParam)
     if (code == HC_ACTION && state != nullptr) {
         const auto* message = reinterpret_cast<const CWPSTRUCT*>(lParam);
         if (message->message == WM_INITDIALOG) Note(*state, message->hwnd, "WM_INITDIALOG begins");
-        else if (state->allMessages) NoteMessage(*state, "sent", {message->hwnd, message->message});
+        else if (state->allMessages) NoteMessage(*state, "sent", message->hwnd, message->message);
         if (message->message == WM_INITDIALOG && state->firstPage == nullptr && IsPage(message->hwnd)) {
             state->firstPage = message->hwnd;
             state->times.pageInitBegin = Elapsed(*state);

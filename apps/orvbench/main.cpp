@@ -27,6 +27,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace orv::bench {
@@ -209,9 +210,11 @@ HRESULT LoadDocument(const wchar_t* text, ComPtr<IXMLDOMDocument2>& document)
 
 // One kind of open, and what it measured.
 struct Subject {
+    Subject(const char* name, std::function<long()> open, int twin = -1)
+        : name(name), open(std::move(open)), twin(twin) {}
     const char* name;
     std::function<long()> open;  // runs the sheet; its result (-1: not shown)
-    int twin = -1;               // the subject with the same templates and no page code
+    int twin;                    // the subject with the same templates and no page code; -1 none
     std::vector<SheetTimes> samples;
 };
 
