@@ -14,6 +14,19 @@ ScopedHostServices::ScopedHostServices(HostServices& services) : previous_(g_ove
 
 ScopedHostServices::~ScopedHostServices() { g_override = previous_; }
 
+OneOpenHostServices::OneOpenHostServices() : host_(CurrentHostServices()), current_(*this) {}
+
+std::unique_ptr<SettingsService> OneOpenHostServices::CreateSettingsService() {
+  if (noSettingsService_) return nullptr;
+  auto service = host_.CreateSettingsService();
+  // A failed creation costs a lookup of the class each time (through the RPC service for a
+  // class nobody registered); within one open its answer would not change.
+  if (!service) noSettingsService_ = true;
+  return service;
+}
+
+std::unique_ptr<HelpService> OneOpenHostServices::CreateHelpService() { return host_.CreateHelpService(); }
+
 std::int32_t ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags) {
   auto help = CurrentHostServices().CreateHelpService();
   if (!help) return -1;

@@ -77,6 +77,27 @@ class ScopedHostServices {
   HostServices* previous_;
 };
 
+// The current host for the time of one open of a sheet or dialog, wrapping the host that was
+// current when it was made. Every creation goes to that host, as at each use, except one: once
+// the settings service could not be created, the open goes on without it and does not ask
+// again. A host that has no settings service (none registered) is asked once per open instead
+// of once per dialog, sheet and page; what is read and what is shown stay the same. A service
+// that can be created is still created at each use. Nests like ScopedHostServices.
+class OneOpenHostServices final : public HostServices {
+ public:
+  OneOpenHostServices();
+  OneOpenHostServices(const OneOpenHostServices&) = delete;
+  OneOpenHostServices& operator=(const OneOpenHostServices&) = delete;
+
+  std::unique_ptr<SettingsService> CreateSettingsService() override;
+  std::unique_ptr<HelpService> CreateHelpService() override;
+
+ private:
+  HostServices& host_;
+  bool noSettingsService_ = false;
+  ScopedHostServices current_;  // last: made current once the members above are ready
+};
+
 // Help over the current host's help service: its result, -1 when there is no service.
 // Dialogs answer the help message with ShowHelp("CHARTX", <their dialog resource id>).
 std::int32_t ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags = 0);

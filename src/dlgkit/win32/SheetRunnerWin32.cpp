@@ -8,15 +8,15 @@
 #include <vector>
 
 #include "dlgkit/Controls.h"
+#include "dlgkit/HostServices.h"
 #include "dlgkit/WindowOps.h"
 #include "dlgkit/win32/DialogHost.h"
+#include "dlgkit/win32/WindowSubclass.h"
 #include "xml/XmlError.h"
 
 namespace orv {
 
 namespace {
-
-constexpr UINT_PTR kSheetSubclassId = 0x4F525653;  // one subclass per sheet window
 
 // One modal run. The sheet callback has no user data, so the run being created is found
 // through the thread: PSCB_INITIALIZED comes during PropertySheetA, before any nested run can
@@ -51,15 +51,14 @@ bool IsSheetPaintMessage(UINT message) {
   }
 }
 
-LRESULT CALLBACK SheetSubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                   DWORD_PTR data) {
-  auto* run = reinterpret_cast<SheetRun*>(data);
+LRESULT SheetSubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* data) {
+  auto* run = static_cast<SheetRun*>(data);
   if (message == WM_NCDESTROY) {
-    ::RemoveWindowSubclass(window, &SheetSubclassProc, id);
+    // The subclass goes with the window.
     run->sheet = nullptr;
-    return ::DefSubclassProc(window, message, wParam, lParam);
+    return CallOriginalProc(window, message, wParam, lParam);
   }
-  if (run->failure) return ::DefSubclassProc(window, message, wParam, lParam);
+  if (run->failure) return CallOriginalProc(window, message, wParam, lParam);
   try {
     // The page-apply message comes ahead of everything the sheet does with messages.
     if (message == kWmLsPageApply) {
@@ -75,7 +74,7 @@ LRESULT CALLBACK SheetSubclassProc(HWND window, UINT message, WPARAM wParam, LPA
     run->Fail(window);
     return 0;
   }
-  return ::DefSubclassProc(window, message, wParam, lParam);
+  return CallOriginalProc(window, message, wParam, lParam);
 }
 
 int CALLBACK SheetCallback(HWND window, UINT message, LPARAM) {
@@ -84,7 +83,7 @@ int CALLBACK SheetCallback(HWND window, UINT message, LPARAM) {
   if (!run) return 0;
   run->sheet = window;
   try {
-    ::SetWindowSubclass(window, &SheetSubclassProc, kSheetSubclassId, reinterpret_cast<DWORD_PTR>(run));
+    SubclassWindowProc(window, &SheetSubclassProc, run);
     // The caption as given, the empty string included.
     ::SendMessageA(window, PSM_SETTITLE, 0, reinterpret_cast<LPARAM>(run->setup->title.c_str()));
     if (run->setup->onInitialized) run->setup->onInitialized(window, DefaultWindowOps());
@@ -108,6 +107,9 @@ std::intptr_t SheetRunnerWin32::Run(const SheetSetup& setup) {
   // registered: registered here, in the activation context the sheet runs in.
   INITCOMMONCONTROLSEX classes{sizeof classes, ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_UPDOWN_CLASS};
   ::InitCommonControlsEx(&classes);
+  // The sheet and each of its pages load the theme; a host without a settings service is asked
+  // for one once in this open, not once per window.
+  OneOpenHostServices host;
   SheetRun run;
   run.setup = &setup;
   const HINSTANCE module = setup.resourceModule ? static_cast<HINSTANCE>(setup.resourceModule) : KitModule();

@@ -2,12 +2,15 @@
 // has received a theme, every message goes to the control's own procedure untouched.
 #include "dlgkit/win32/ThemedControlsWin32.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <type_traits>
 
 #include "dlgkit/ThemedControls.h"
+#include "dlgkit/win32/WindowSubclass.h"
 
 namespace orv {
 namespace {
@@ -355,19 +358,18 @@ bool ButtonDrawsOn(UINT message, HWND window) {
 
 }  // namespace
 
-LRESULT CALLBACK ThemedControlSubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                           UINT_PTR, DWORD_PTR refData) {
-  auto& control = *reinterpret_cast<COrvThemedControl*>(refData);
+LRESULT ThemedControlSubclassProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, void* data) {
+  auto& control = *static_cast<COrvThemedControl*>(data);
   if (message == WM_NCDESTROY) {
-    ::RemoveWindowSubclass(window, ThemedControlSubclassProc, kThemedControlSubclassId);
+    // The subclass goes with the window.
     control.DetachWindow();
-    return ::DefSubclassProc(window, message, wParam, lParam);
+    return CallOriginalProc(window, message, wParam, lParam);
   }
   // No exception leaves a window procedure; a failure here falls back to the control's own.
   try {
     std::intptr_t result = 0;
     if (control.OnMessage(message, wParam, lParam, result)) return result;
-    if (!control.IsThemed()) return ::DefSubclassProc(window, message, wParam, lParam);
+    if (!control.IsThemed()) return CallOriginalProc(window, message, wParam, lParam);
 
     const ThemedControlKind kind = control.Kind();
     if (PaintsItself(kind)) {
@@ -385,12 +387,12 @@ LRESULT CALLBACK ThemedControlSubclassProc(HWND window, UINT message, WPARAM wPa
       }
       const bool button = kind == ThemedControlKind::Button || kind == ThemedControlKind::RadioOrCheck;
       if (button && ButtonDrawsOn(message, window)) {
-        LRESULT answer = ::DefSubclassProc(window, message, wParam, lParam);
+        LRESULT answer = CallOriginalProc(window, message, wParam, lParam);
         if (::IsWindow(window)) ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
         return answer;
       }
       if (kind == ThemedControlKind::Tab && (message == TCM_SETCURSEL || message == WM_SETFOCUS)) {
-        LRESULT answer = ::DefSubclassProc(window, message, wParam, lParam);
+        LRESULT answer = CallOriginalProc(window, message, wParam, lParam);
         ::InvalidateRect(window, nullptr, FALSE);
         return answer;
       }
@@ -406,7 +408,11 @@ LRESULT CALLBACK ThemedControlSubclassProc(HWND window, UINT message, WPARAM wPa
     }
   } catch (...) {
   }
-  return ::DefSubclassProc(window, message, wParam, lParam);
+  return CallOriginalProc(window, message, wParam, lParam);
+}
+
+COrvThemedControl* ThemedControlOf(HWND window) {
+  return static_cast<COrvThemedControl*>(WindowSubclassData(window, &ThemedControlSubclassProc));
 }
 
 }  // namespace orv

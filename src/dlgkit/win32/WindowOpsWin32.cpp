@@ -8,6 +8,7 @@
 
 #include "dlgkit/ThemedControls.h"
 #include "dlgkit/win32/ThemedControlsWin32.h"
+#include "dlgkit/win32/WindowSubclass.h"
 
 namespace orv {
 namespace {
@@ -66,19 +67,23 @@ class Win32WindowOps final : public WindowOps {
     return ::SetBkColor(D(dc), color);
   }
   int GetDisplayLogPixelsY() override {
-    HDC dc = ::CreateDCA("DISPLAY", nullptr, nullptr, nullptr);
-    if (!dc) return 96;
-    int dpi = ::GetDeviceCaps(dc, LOGPIXELSY);
-    ::DeleteDC(dc);
+    // The system's DPI, which a process sees fixed from its start (a change takes a new logon):
+    // the "DISPLAY" device is asked once, not at every dialog and theme load.
+    static const int dpi = [] {
+      HDC dc = ::CreateDCA("DISPLAY", nullptr, nullptr, nullptr);
+      if (!dc) return 96;
+      const int answer = ::GetDeviceCaps(dc, LOGPIXELSY);
+      ::DeleteDC(dc);
+      return answer;
+    }();
     return dpi;
   }
   bool SubclassWindow(WindowHandle window, COrvThemedControl& control) override {
-    return ::SetWindowSubclass(H(window), ThemedControlSubclassProc, kThemedControlSubclassId,
-                               reinterpret_cast<DWORD_PTR>(&control)) != FALSE;
+    return SubclassWindowProc(H(window), &ThemedControlSubclassProc, &control);
   }
   void UnsubclassWindow(WindowHandle window, COrvThemedControl&) override {
     if (::IsWindow(H(window)))
-      ::RemoveWindowSubclass(H(window), ThemedControlSubclassProc, kThemedControlSubclassId);
+      RemoveWindowSubclassProc(H(window), &ThemedControlSubclassProc);
   }
   int MeasureListBoxHorizontalExtent(WindowHandle listBox) override {
     HWND list = H(listBox);

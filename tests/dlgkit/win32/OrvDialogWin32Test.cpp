@@ -224,18 +224,8 @@ class OrvDialogWin32Test : public ::testing::Test {
   TemplateBuilder templ_ = OneOfEach();
 };
 
-// GetWindowSubclass is exported by ordinal only; MinGW's import library lacks it.
-BOOL QuerySubclass(HWND window, DWORD_PTR* ref) {
-  using Fn = BOOL(WINAPI*)(HWND, SUBCLASSPROC, UINT_PTR, DWORD_PTR*);
-  static auto fn = reinterpret_cast<Fn>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("comctl32.dll"), MAKEINTRESOURCEA(411))));
-  return fn && fn(window, orv::ThemedControlSubclassProc, orv::kThemedControlSubclassId, ref);
-}
-
 bool SubclassedBy(HWND window, const COrvThemedControl* control) {
-  DWORD_PTR ref = 0;
-  return QuerySubclass(window, &ref) &&
-         ref == reinterpret_cast<DWORD_PTR>(control);
+  return control != nullptr && orv::ThemedControlOf(window) == control;
 }
 
 TEST_F(OrvDialogWin32Test, ChildScanOnARealDialog) {
@@ -396,8 +386,7 @@ TEST_F(OrvDialogWin32Test, EverythingIsGivenBack) {
     // The dialog object goes first; its controls give their windows back.
   }
   ASSERT_TRUE(IsWindow(edit));
-  DWORD_PTR ref = 0;
-  EXPECT_FALSE(QuerySubclass(edit, &ref));
+  EXPECT_EQ(orv::ThemedControlOf(edit), nullptr);
   SendMessageA(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("still works"));
   DestroyWindow(window);
   Pump();
