@@ -21,13 +21,14 @@ TEST(OrvhostOptions, DefaultsAndEveryOption)
     EXPECT_FALSE(p.options.noChartData);
 
     p = ParseOptions({L"--activate", L"direct", L"--dll", L"x.dll", L"--doc", L"d.xml", L"--script", L"ok",
-                      L"--screenshot", L"s.png", L"--intraday"});
+                      L"--screenshot", L"s.png", L"--box-screenshot", L"b.png", L"--intraday"});
     ASSERT_TRUE(p.error.empty()) << p.error;
     EXPECT_EQ(p.options.activation, Activation::Direct);
     EXPECT_EQ(p.options.dllPath, L"x.dll");
     EXPECT_EQ(p.options.docPath, L"d.xml");
     EXPECT_EQ(p.options.script, L"ok");
     EXPECT_EQ(p.options.screenshot, L"s.png");
+    EXPECT_EQ(p.options.boxScreenshot, L"b.png");
     EXPECT_TRUE(p.options.intraday);
 
     p = ParseOptions({L"--activate", L"registered", L"--progid", L"OrvChartDlgs.ChartPages", L"--no-chart-data"});
@@ -43,6 +44,7 @@ TEST(OrvhostOptions, RefusesWhatItWouldIgnoreOrCannotRead)
         {L"--activate"},                                  // no value
         {L"--activate", L"registry"},                     // unknown way
         {L"--doc", L""},                                  // empty value
+        {L"--box-screenshot"},                            // no value
         {L"--bogus"},                                     // unknown option
         {L"--dll", L"x.dll"},                             // --dll without direct
         {L"--activate", L"direct", L"--progid", L"P.1"},  // a ProgID means nothing to direct
