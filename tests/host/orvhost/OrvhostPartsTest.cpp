@@ -87,6 +87,17 @@ TEST(OrvhostScript, ParsesEveryCommandWithSeparatorsQuotesAndComments)
     EXPECT_EQ(s.steps[1].source, "click 4646");
 }
 
+TEST(OrvhostScript, SpinTakesStepsEitherWay)
+{
+    const ParsedScript s = ParseScript("spin 1508 3; spin 1508 -12");
+    ASSERT_TRUE(s.error.empty()) << s.error;
+    ASSERT_EQ(s.steps.size(), 2u);
+    EXPECT_EQ(s.steps[0].op, ScriptOp::Spin);
+    EXPECT_EQ(s.steps[0].id, 1508);
+    EXPECT_EQ(s.steps[0].index, 3);
+    EXPECT_EQ(s.steps[1].index, -12);
+}
+
 TEST(OrvhostScript, TextMayBeEmpty)
 {
     const ParsedScript s = ParseScript("text 1463\ntext 1464 \"\"");
@@ -108,6 +119,9 @@ TEST(OrvhostScript, BadScriptsNameTheCommandAndTheFault)
         {"select 5", "select needs an item index"},
         {"select 5 -1", "select needs an item index"},
         {"tab", "tab needs a tab index"},
+        {"spin 1508", "spin needs a number of steps"},
+        {"spin 1508 0", "spin needs a number of steps"},
+        {"spin 0 1", "spin needs a control id"},
         {"wait 60001", "wait needs milliseconds"},
         {"ok now", "unexpected \"now\" after ok"},
         {"text 5 \"open", "no closing quote"},
