@@ -4,7 +4,7 @@
 # picture of the message box the entry brings up). Writes build/gallery/<name>.png and
 # build/gallery/index.html, which shows them with their captions and documents.
 # The entries are apps/orvhost/gallery/entries.txt; a new dialog is one line there.
-#   tools/gallery.sh [--no-build] [--only <name>]...
+#   tools/gallery.sh [--no-build] [--only <name>]...   (with --only, the index shows those alone)
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -20,7 +20,7 @@ while [ $# -gt 0 ]; do
     --no-build) build=0; shift ;;
     --only) only+=("$2"); shift 2 ;;
     --inside) inside=1; shift ;;  # this script, run again inside the Wine session
-    -h|--help) sed -n '2,8p' "$0"; exit 0 ;;
+    -h|--help) sed -n '2,7p' "$0"; exit 0 ;;
     *) echo "gallery.sh: unknown argument $1" >&2; exit 2 ;;
   esac
 done
@@ -42,6 +42,8 @@ if [ "$inside" = 0 ]; then
 fi
 
 mkdir -p "$out/docs"
+# A full run starts afresh, so no picture of an entry that is gone stays behind.
+[ ${#only[@]} -gt 0 ] || rm -f "$out"/*.png "$out"/docs/*
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 failures=0
