@@ -151,7 +151,8 @@ std::vector<std::string> ExpectedEvents(const std::string& block) {
   std::istringstream lines(block);
   for (std::string line; std::getline(lines, line);) {
     line = Trim(line);
-    if (line.empty() || (line.rfind("<!--", 0) == 0 && line.size() >= 7 && line.compare(line.size() - 3, 3, "-->") == 0)) {
+    if (line.empty() ||
+        (line.rfind("<!--", 0) == 0 && line.size() >= 7 && line.compare(line.size() - 3, 3, "-->") == 0)) {
       continue;
     }
     if (line.rfind("<PropertySheet", 0) == 0 || events.empty()) events.emplace_back();
@@ -191,16 +192,26 @@ void Play(HeadlessSheetRunner& r, const std::vector<std::vector<std::string>>& c
     SCOPED_TRACE("command: " + c[0]);
     orv::FakeControls& page = r.Tab(r.Sheet().CurrentPage());
     const auto arg = [&](std::size_t i) { return i < c.size() ? std::stoi(c[i]) : 0; };
-    if (c[0] == "text" && c.size() == 3) page.TypeText(arg(1), c[2]);
-    else if (c[0] == "click") page.Click(arg(1));
-    else if (c[0] == "select" && page.Control(arg(1)).kind == orv::FakeControlKind::ListBox) page.SelectListItem(arg(1), arg(2));
-    else if (c[0] == "select") page.SelectComboItem(arg(1), arg(2));
-    else if (c[0] == "spin") page.ClickSpin(arg(1), arg(2));
-    else if (c[0] == "tab") r.Sheet().SelectPage(arg(1));
-    else if (c[0] == "apply") r.Sheet().PressApply();
-    else if (c[0] == "ok") r.Sheet().PressOk();
-    else if (c[0] == "cancel") r.Sheet().PressCancel();
-    else ADD_FAILURE() << "a command the headless check doesn't play: " << c[0];
+    if (c[0] == "text" && c.size() == 3)
+      page.TypeText(arg(1), c[2]);
+    else if (c[0] == "click")
+      page.Click(arg(1));
+    else if (c[0] == "select" && page.Control(arg(1)).kind == orv::FakeControlKind::ListBox)
+      page.SelectListItem(arg(1), arg(2));
+    else if (c[0] == "select")
+      page.SelectComboItem(arg(1), arg(2));
+    else if (c[0] == "spin")
+      page.ClickSpin(arg(1), arg(2));
+    else if (c[0] == "tab")
+      r.Sheet().SelectPage(arg(1));
+    else if (c[0] == "apply")
+      r.Sheet().PressApply();
+    else if (c[0] == "ok")
+      r.Sheet().PressOk();
+    else if (c[0] == "cancel")
+      r.Sheet().PressCancel();
+    else
+      ADD_FAILURE() << "a command the headless check doesn't play: " << c[0];
   }
 }
 
@@ -235,8 +246,8 @@ TEST(HostGuide, LineStudyExamplesSendWhatTheGuideSays) {
     lstest::SetLsLayouts(runner);
     sheet.InitFromXml(sheetNode);
     if (e.chart != "none") {
-      sheet.SetChartData(std::make_shared<HostChart>(e.chart == "intraday" ? SyntheticChart::Intraday()
-                                                                            : SyntheticChart::Daily()));
+      sheet.SetChartData(
+          std::make_shared<HostChart>(e.chart == "intraday" ? SyntheticChart::Intraday() : SyntheticChart::Daily()));
     }
     const auto commands = Commands(e.user);
     runner.SetScript([&](HeadlessSheetRunner& r) { Play(r, commands); });
