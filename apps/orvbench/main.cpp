@@ -8,10 +8,9 @@
 #include "SheetProbe.h"
 
 #include "ComObjects.h"
-#include "SyntheticChart.h"
 
 #include "OrvChartDlgs_h.h"
-#include "xml/msxml/ComPtr.h"
+#include "com/ComPtr.h"
 #include "xml/msxml/MsxmlGuids.h"
 
 #include <windows.h>
@@ -314,7 +313,7 @@ int Run(const std::vector<std::wstring>& args)
         std::fprintf(stderr, "orvbench: cannot load a document (0x%08lX)\n", static_cast<unsigned long>(hr));
         return 1;
     }
-    const ComPtr<IChartData> chart = host_app::MakeChartData(host_app::SyntheticChart::Daily());
+    const ComPtr<IChartData> chart = host_app::MakeChartData(host_app::HostChart(false));
 
     const auto openSheet = [&pages, &chart](IXMLDOMDocument2* document) {
         LONG result = -1;

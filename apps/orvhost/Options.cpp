@@ -18,9 +18,11 @@ const char* const kUsage =
     "  --no-services            serve no settings or help service: no theme, prompts or help\n"
     "  --intraday               the synthetic chart has five-minute bars stamped to the second\n"
     "  --script <file or text>  drive the sheet: text <id> <value>, click <id>, select <id> <index>,\n"
-    "                           tab <index>, apply, ok, cancel, next, back, finish, wait <ms>,\n"
-    "                           screenshot <file.png>; separated by new lines or ';'\n"
+    "                           tab <index>, spin <id> <steps>, apply, ok, cancel, next, back, finish,\n"
+    "                           wait <ms>, screenshot <file.png>; separated by new lines or ';'\n"
     "  --screenshot <file.png>  the same as appending: screenshot <file.png>; cancel\n"
+    "  --box-screenshot <file.png>  the first window that opens over the sheet (a message box):\n"
+    "                           its picture, then Esc as its answer\n"
     "Prints each StatusEvent as one line \"StatusEvent: <pValue>\" (\\r \\n \\t \\\\ escaped), each help\n"
     "request as \"ShowHelp: <book> <topic> <flags>\" and each stored value as\n"
     "\"SetValue: <section> <key> <value> <kind>\", then \"DoModal returned <n>\".\n"
@@ -68,6 +70,8 @@ ParsedOptions ParseOptions(const std::vector<std::wstring>& args)
             if (!value(o.script)) return parsed;
         } else if (arg == L"--screenshot") {
             if (!value(o.screenshot)) return parsed;
+        } else if (arg == L"--box-screenshot") {
+            if (!value(o.boxScreenshot)) return parsed;
         } else if (arg == L"--language") {
             if (!value(o.languagePath)) return parsed;
         } else if (arg == L"--prefs") {

@@ -20,6 +20,7 @@ struct Options {
     std::wstring docPath;      // the document; empty: the built-in line study sample
     std::wstring script;       // --script: a file name, or the script itself
     std::wstring screenshot;   // --screenshot: screenshot <file>; cancel, after the script
+    std::wstring boxScreenshot; // --box-screenshot: the first window opened over the sheet, answered by Esc
     std::wstring languagePath; // the LANGUAGE document served; empty: the built-in samples/language.xml
     std::wstring prefsPath;    // the PREFS document served; empty: the built-in samples/prefs.xml
     bool noServices = false;   // register no settings or help service: the dialogs do without

@@ -121,6 +121,7 @@ constexpr Verb kVerbs[] = {
     {"tab", ScriptOp::Tab},       {"apply", ScriptOp::Apply},   {"ok", ScriptOp::Ok},
     {"cancel", ScriptOp::Cancel}, {"next", ScriptOp::Next},     {"back", ScriptOp::Back},
     {"finish", ScriptOp::Finish}, {"wait", ScriptOp::Wait},     {"screenshot", ScriptOp::Screenshot},
+    {"spin", ScriptOp::Spin},
 };
 
 // Parses one command; an empty result means good.
@@ -133,8 +134,8 @@ std::string ParseCommand(const std::string& command, ScriptStep& step)
         if (verb == v.name) found = &v;
     }
     if (found == nullptr) {
-        return StrFormat("unknown command \"%.*s\" (known: text click select tab apply ok cancel next back "
-                         "finish wait screenshot)", static_cast<int>(verb.size()), verb.data());
+        return StrFormat("unknown command \"%.*s\" (known: text click select tab spin apply ok cancel next "
+                         "back finish wait screenshot)", static_cast<int>(verb.size()), verb.data());
     }
     step.op = found->op;
     const char* name = found->name;
@@ -151,6 +152,12 @@ std::string ParseCommand(const std::string& command, ScriptStep& step)
     case ScriptOp::Select:
         if (!ParseInt(NextWord(rest), 1, 65535, step.id)) return StrFormat("%s needs a control id from 1 to 65535", name);
         if (!ParseInt(NextWord(rest), 0, 1000000, step.index)) return StrFormat("%s needs an item index of 0 or more", name);
+        break;
+    case ScriptOp::Spin:
+        if (!ParseInt(NextWord(rest), 1, 65535, step.id)) return StrFormat("%s needs a control id from 1 to 65535", name);
+        if (!ParseInt(NextWord(rest), -1000000, 1000000, step.index) || step.index == 0) {
+            return StrFormat("%s needs a number of steps other than 0", name);
+        }
         break;
     case ScriptOp::Tab:
         if (!ParseInt(NextWord(rest), 0, 1000, step.index)) return StrFormat("%s needs a tab index of 0 or more", name);

@@ -203,6 +203,19 @@ std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet)
                      MAKEWPARAM(step.id, combo ? CBN_SELCHANGE : LBN_SELCHANGE), reinterpret_cast<LPARAM>(control));
         return {};
     }
+    case ScriptOp::Spin: {
+        if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
+        if (ClassOf(control) != UPDOWN_CLASSA) return StrFormat("control %d is a %s, not an up-down", step.id, ClassOf(control).c_str());
+        // What the control sends when an arrow is clicked; the page may take the move or refuse it.
+        NMUPDOWN move{};
+        move.hdr.hwndFrom = control;
+        move.hdr.idFrom = static_cast<UINT_PTR>(step.id);
+        move.hdr.code = UDN_DELTAPOS;
+        move.iPos = static_cast<int>(SendMessageW(control, UDM_GETPOS32, 0, 0));
+        move.iDelta = step.index;
+        SendMessageW(GetParent(control), WM_NOTIFY, static_cast<WPARAM>(step.id), reinterpret_cast<LPARAM>(&move));
+        return {};
+    }
     case ScriptOp::Tab: {
         const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
         const LRESULT count = tabs != nullptr ? SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0) : 0;

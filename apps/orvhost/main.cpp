@@ -6,6 +6,7 @@
 #include "ComObjects.h"
 #include "HostServiceObjects.h"
 #include "Options.h"
+#include "PopupCapture.h"
 #include "Script.h"
 #include "ScriptDriver.h"
 #include "resource.h"
@@ -256,10 +257,17 @@ int Run(const std::vector<std::wstring>& args)
         return kExitComponentFailed;
     }
 
+    PopupCapture popup(options.boxScreenshot);
+    if (!options.boxScreenshot.empty() && !popup.Start()) {
+        std::fprintf(stderr, "orvhost: cannot start the box picture's timer (error %lu)\n", GetLastError());
+        return kExitComponentFailed;
+    }
+
     LONG result = 0;
     hr = options.noChartData ? component.Pages()->DoModal(document.get(), &result)
                              : component.Pages()->DoModal2(document.get(), chartData.get(), &result);
     driver.Stop();
+    popup.Stop();
     if (FAILED(hr)) {
         const std::string description = ErrorDescription();
         std::fprintf(stderr, "orvhost: %s failed (0x%08lX)%s%s\n", options.noChartData ? "DoModal" : "DoModal2",
@@ -271,6 +279,10 @@ int Run(const std::vector<std::wstring>& args)
 
     if (!driver.Error().empty()) {
         std::fprintf(stderr, "orvhost: script: %s\n", driver.Error().c_str());
+        return kExitBadScript;
+    }
+    if (!options.boxScreenshot.empty() && !popup.Written()) {
+        std::fprintf(stderr, "orvhost: %s\n", popup.Error().empty() ? "no window opened over the sheet" : popup.Error().c_str());
         return kExitBadScript;
     }
     if (!driver.Finished() && !driver.SheetSeen()) {

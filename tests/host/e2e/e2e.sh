@@ -81,4 +81,13 @@ case_ "Day page without chart data: the holiday box refuses OK" 3 "DoModal retur
 orvhost: script: command 2 (\"ok\") left a window open (\"Error\")" \
   --no-chart-data --doc "$(doc trendline.xml)" --script "text 1463 99; ok; cancel"
 
+# The same box photographed and answered with Esc: the sheet stays, and the script goes on.
+box=$(mktemp -u).png
+case_ "the holiday box photographed, answered, the sheet cancelled afterwards" 0 "DoModal returned 0" \
+  --no-chart-data --doc "$(doc trendline.xml)" --script "text 1463 99; ok; cancel" --box-screenshot "$(winepath -w "$box")"
+[ -s "$box" ] || { echo "FAIL the holiday box: no picture written"; failures=$((failures + 1)); }
+rm -f "$box"
+case_ "no box over the sheet: nothing to photograph is an error" 3 "DoModal returned 1
+orvhost: no window opened over the sheet" --doc "$(doc advanced.xml)" --script "ok" --box-screenshot "$(winepath -w "$box")"
+
 exit "$failures"

@@ -21,13 +21,14 @@ TEST(OrvhostOptions, DefaultsAndEveryOption)
     EXPECT_FALSE(p.options.noChartData);
 
     p = ParseOptions({L"--activate", L"direct", L"--dll", L"x.dll", L"--doc", L"d.xml", L"--script", L"ok",
-                      L"--screenshot", L"s.png", L"--intraday"});
+                      L"--screenshot", L"s.png", L"--box-screenshot", L"b.png", L"--intraday"});
     ASSERT_TRUE(p.error.empty()) << p.error;
     EXPECT_EQ(p.options.activation, Activation::Direct);
     EXPECT_EQ(p.options.dllPath, L"x.dll");
     EXPECT_EQ(p.options.docPath, L"d.xml");
     EXPECT_EQ(p.options.script, L"ok");
     EXPECT_EQ(p.options.screenshot, L"s.png");
+    EXPECT_EQ(p.options.boxScreenshot, L"b.png");
     EXPECT_TRUE(p.options.intraday);
 
     p = ParseOptions({L"--activate", L"registered", L"--progid", L"OrvChartDlgs.ChartPages", L"--no-chart-data"});
@@ -43,6 +44,7 @@ TEST(OrvhostOptions, RefusesWhatItWouldIgnoreOrCannotRead)
         {L"--activate"},                                  // no value
         {L"--activate", L"registry"},                     // unknown way
         {L"--doc", L""},                                  // empty value
+        {L"--box-screenshot"},                            // no value
         {L"--bogus"},                                     // unknown option
         {L"--dll", L"x.dll"},                             // --dll without direct
         {L"--activate", L"direct", L"--progid", L"P.1"},  // a ProgID means nothing to direct
@@ -85,6 +87,17 @@ TEST(OrvhostScript, ParsesEveryCommandWithSeparatorsQuotesAndComments)
     EXPECT_EQ(s.steps[1].source, "click 4646");
 }
 
+TEST(OrvhostScript, SpinTakesStepsEitherWay)
+{
+    const ParsedScript s = ParseScript("spin 1508 3; spin 1508 -12");
+    ASSERT_TRUE(s.error.empty()) << s.error;
+    ASSERT_EQ(s.steps.size(), 2u);
+    EXPECT_EQ(s.steps[0].op, ScriptOp::Spin);
+    EXPECT_EQ(s.steps[0].id, 1508);
+    EXPECT_EQ(s.steps[0].index, 3);
+    EXPECT_EQ(s.steps[1].index, -12);
+}
+
 TEST(OrvhostScript, TextMayBeEmpty)
 {
     const ParsedScript s = ParseScript("text 1463\ntext 1464 \"\"");
@@ -106,6 +119,9 @@ TEST(OrvhostScript, BadScriptsNameTheCommandAndTheFault)
         {"select 5", "select needs an item index"},
         {"select 5 -1", "select needs an item index"},
         {"tab", "tab needs a tab index"},
+        {"spin 1508", "spin needs a number of steps"},
+        {"spin 1508 0", "spin needs a number of steps"},
+        {"spin 0 1", "spin needs a control id"},
         {"wait 60001", "wait needs milliseconds"},
         {"ok now", "unexpected \"now\" after ok"},
         {"text 5 \"open", "no closing quote"},

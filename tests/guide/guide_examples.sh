@@ -1,0 +1,112 @@
+#!/bin/sh
+# Every example of docs/host-guide.md, run as a host runs it: orvhost creates ChartPages through
+# COM under Wine, opens the example's request, plays what the user does, and prints the
+# StatusEvents it receives and DoModal's result; these must be what the guide says, exactly.
+# A block that quotes a file of the tree must equal that file.
+#   guide_examples.sh <orvhost.exe> <source root>
+# The guide's blocks (fence info after the language):
+#   request=<name> [chart=daily|intraday|none]   the document handed to DoModal2 (DoModal with none)
+#   user=<name>                                  what the user does, in orvhost's script language
+#   events=<name> returns=<n>                    the StatusEvent documents in order, then the result
+#   file=<path>                                  a file of the tree, quoted whole
+# Each xml block must be one of these, so no example goes unchecked.
+set -u
+host=$1
+root=$2
+guide=$root/docs/host-guide.md
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failures=0
+
+fail() { echo "FAIL $*"; failures=$((failures + 1)); }
+
+# Split the guide into one file per block: <kind>.<name> (+ .attrs), or a list of problems.
+awk -v dir="$work" '
+  function attr(key,   i, n, kv) {
+    n = split(info, kv, /[ \t]+/)
+    for (i = 1; i <= n; i++) if (index(kv[i], key "=") == 1) return substr(kv[i], length(key) + 2)
+    return ""
+  }
+  !inblock && /^```[A-Za-z]/ {
+    inblock = 1; start = NR; lang = substr($0, 4); info = lang; sub(/[ \t].*/, "", lang)
+    sub(/^[^ \t]*[ \t]*/, "", info)
+    out = ""
+    if ((n = attr("request")) != "") { out = dir "/request." n; print attr("chart") > (dir "/chart." n) }
+    else if ((n = attr("user")) != "") out = dir "/user." n
+    else if ((n = attr("events")) != "") { out = dir "/events." n; print attr("returns") > (dir "/returns." n) }
+    else if ((n = attr("file")) != "") { out = dir "/file." (++files); print n > (dir "/path." files) }
+    else if (lang == "xml") print "line " NR ": an xml block that nothing checks (give it request=, events= or file=)" >> (dir "/problems")
+    if (out != "") {
+      if (out in seen) print "line " NR ": a second block " out >> (dir "/problems")
+      seen[out] = 1
+      printf "" > out
+    }
+    next
+  }
+  inblock && /^```[ \t]*$/ { inblock = 0; if (out != "") close(out); next }
+  inblock && out != "" { print > out }
+  END { if (inblock) print "line " start ": a block that never ends" >> (dir "/problems") }
+' "$guide"
+
+if [ -s "$work/problems" ]; then
+  while IFS= read -r problem; do fail "docs/host-guide.md $problem"; done <"$work/problems"
+fi
+
+# Quoted files, byte for byte (the block's last line break is the file's).
+for path_file in "$work"/path.*; do
+  [ -e "$path_file" ] || continue
+  k=${path_file##*.}
+  path=$(cat "$path_file")
+  if cmp -s "$work/file.$k" "$root/$path"; then echo "ok   file $path"; else fail "file $path: the guide's copy differs from the file"; fi
+done
+
+# The expected output: each event document on one line (its lines trimmed and joined; XML
+# comments dropped), as orvhost prints it, then the result.
+expected() {
+  awk '
+    { sub(/^[ \t]+/, ""); sub(/[ \t\r]+$/, "") }
+    /^<!--.*-->$/ || $0 == "" { next }
+    /^<PropertySheet/ { if (doc != "") print "StatusEvent: " doc; doc = "" }
+    { doc = doc $0 }
+    END { if (doc != "") print "StatusEvent: " doc }
+  ' "$work/events.$1"
+  echo "DoModal returned $(cat "$work/returns.$1")"
+}
+
+for request in "$work"/request.*; do
+  [ -e "$request" ] || { fail "docs/host-guide.md has no examples"; break; }
+  name=${request##*/request.}
+  if [ ! -e "$work/user.$name" ] || [ ! -e "$work/events.$name" ]; then
+    fail "$name: a request needs its user= and events= blocks"
+    continue
+  fi
+  set -- --doc "$(winepath -w "$request")" --script "$(winepath -w "$work/user.$name")"
+  case $(cat "$work/chart.$name") in
+    ""|daily) ;;
+    intraday) set -- "$@" --intraday ;;
+    none) set -- "$@" --no-chart-data ;;
+    *) fail "$name: chart= takes daily, intraday or none"; continue ;;
+  esac
+  wine "$host" "$@" >"$work/out" 2>"$work/err"
+  rc=$?
+  returns=$(cat "$work/returns.$name")
+  code=$returns
+  [ "$returns" = -1 ] && code=255
+  actual=$(tr -d '\r' <"$work/out" | sed -e 's/\\[rnt]//g')
+  want=$(expected "$name")
+  if [ "$actual" = "$want" ] && [ "$rc" = "$code" ]; then
+    echo "ok   $name"
+  else
+    fail "$name: exit code $rc (expected $code), output:"
+    echo "$actual"
+    cat "$work/err"
+    echo "expected:"
+    echo "$want"
+  fi
+done
+for block in "$work"/events.* "$work"/user.*; do
+  [ -e "$block" ] || continue
+  name=${block##*/}
+  [ -e "$work/request.${name#*.}" ] || fail "${name#*.}: ${name%%.*} without a request"
+done
+exit "$failures"
