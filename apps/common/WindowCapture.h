@@ -12,10 +12,10 @@ namespace orv::apps {
 
 // 24-bit pixels, rows top-down, each row padded to a multiple of 4 bytes (as WIC and DIBs want).
 struct Bitmap {
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint8_t> bgr;
-    UINT Stride() const noexcept { return static_cast<UINT>((width * 3 + 3) & ~3); }
+  int width = 0;
+  int height = 0;
+  std::vector<std::uint8_t> bgr;
+  UINT Stride() const noexcept { return static_cast<UINT>((width * 3 + 3) & ~3); }
 };
 
 // Copies what the screen shows of the window, frame included. The window should be on top
@@ -29,4 +29,4 @@ HRESULT WritePng(const Bitmap& bitmap, const std::wstring& path);
 // Both of the above; paints the window and its children first.
 HRESULT CaptureWindowToPng(HWND window, const std::wstring& path);
 
-} // namespace orv::apps
+}  // namespace orv::apps

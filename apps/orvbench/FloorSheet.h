@@ -16,4 +16,4 @@ INT_PTR RunFloorSheet(HWND parent);
 // a page procedure that does nothing: what those templates cost with no page code behind them.
 INT_PTR RunTemplateSheet(HWND parent, HINSTANCE module, std::initializer_list<int> templateIds);
 
-} // namespace orv::bench
+}  // namespace orv::bench

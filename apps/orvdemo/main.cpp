@@ -23,80 +23,80 @@ namespace {
 COLORREF Rgb(int r, int g, int b) { return RGB(r, g, b); }
 
 // A dark chart-room theme, far from the system colours, so the theming shows at a glance.
-ThemeColors DemoTheme()
-{
-    ThemeColors theme;
-    theme[0] = Rgb(30, 36, 46);    // dialog, radio, check and static background
-    theme[1] = Rgb(58, 68, 84);    // button face
-    theme[3] = Rgb(226, 232, 240); // text
-    theme[4] = Rgb(18, 22, 30);    // edit, list and combo fields
-    theme[6] = Rgb(0, 150, 100);   // selected buttons
-    theme[7] = Rgb(120, 128, 140); // disabled text
-    return theme;
+ThemeColors DemoTheme() {
+  ThemeColors theme;
+  theme[0] = Rgb(30, 36, 46);     // dialog, radio, check and static background
+  theme[1] = Rgb(58, 68, 84);     // button face
+  theme[3] = Rgb(226, 232, 240);  // text
+  theme[4] = Rgb(18, 22, 30);     // edit, list and combo fields
+  theme[6] = Rgb(0, 150, 100);    // selected buttons
+  theme[7] = Rgb(120, 128, 140);  // disabled text
+  return theme;
 }
 
 class ComApartment {
-public:
-    ComApartment() : hr_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
-    ~ComApartment() { if (SUCCEEDED(hr_)) CoUninitialize(); }
-    ComApartment(const ComApartment&) = delete;
-    ComApartment& operator=(const ComApartment&) = delete;
-private:
-    HRESULT hr_;
+ public:
+  ComApartment() : hr_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
+  ~ComApartment() {
+    if (SUCCEEDED(hr_)) CoUninitialize();
+  }
+  ComApartment(const ComApartment&) = delete;
+  ComApartment& operator=(const ComApartment&) = delete;
+
+ private:
+  HRESULT hr_;
 };
 
-int Run(HINSTANCE instance)
-{
-    int argc = 0;
-    std::unique_ptr<LPWSTR, decltype(&LocalFree)> argv(CommandLineToArgvW(GetCommandLineW(), &argc), &LocalFree);
-    std::wstring screenshot;
-    for (int i = 1; argv && i < argc; ++i) {
-        const std::wstring arg = argv.get()[i];
-        if (arg == L"--screenshot" && i + 1 < argc && argv.get()[i + 1][0] != L'\0') {
-            screenshot = argv.get()[++i];
-        } else {
-            std::fprintf(stderr, "usage: orvdemo [--screenshot <file.png>]\n");
-            return 2;
-        }
+int Run(HINSTANCE instance) {
+  int argc = 0;
+  std::unique_ptr<LPWSTR, decltype(&LocalFree)> argv(CommandLineToArgvW(GetCommandLineW(), &argc), &LocalFree);
+  std::wstring screenshot;
+  for (int i = 1; argv && i < argc; ++i) {
+    const std::wstring arg = argv.get()[i];
+    if (arg == L"--screenshot" && i + 1 < argc && argv.get()[i + 1][0] != L'\0') {
+      screenshot = argv.get()[++i];
+    } else {
+      std::fprintf(stderr, "usage: orvdemo [--screenshot <file.png>]\n");
+      return 2;
     }
+  }
 
-    INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS};
-    InitCommonControlsEx(&classes);
-    ComApartment com;
+  INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS};
+  InitCommonControlsEx(&classes);
+  ComApartment com;
 
-    // The kit asks "the host" for its theme; here the host is this program.
-    orv::InProcessHostServices host(DemoTheme());
-    orv::ScopedHostServices useHost(host);
+  // The kit asks "the host" for its theme; here the host is this program.
+  orv::InProcessHostServices host(DemoTheme());
+  orv::ScopedHostServices useHost(host);
 
-    orv::demo::CDemoDlg dialog(screenshot);
-    const INT_PTR result = orv::RunPageDialog(dialog, instance, dialog.DialogId(), nullptr, &orv::DefaultWindowOps());
-    if (result == -1) {
-        std::fprintf(stderr, "orvdemo: cannot create the dialog (error %lu)\n", GetLastError());
-        return 1;
+  orv::demo::CDemoDlg dialog(screenshot);
+  const INT_PTR result = orv::RunPageDialog(dialog, instance, dialog.DialogId(), nullptr, &orv::DefaultWindowOps());
+  if (result == -1) {
+    std::fprintf(stderr, "orvdemo: cannot create the dialog (error %lu)\n", GetLastError());
+    return 1;
+  }
+  if (!screenshot.empty()) {
+    if (FAILED(dialog.ScreenshotResult())) {
+      std::fprintf(stderr, "orvdemo: cannot write %ls (0x%08lx)\n", screenshot.c_str(),
+                   static_cast<unsigned long>(dialog.ScreenshotResult()));
+      return 1;
     }
-    if (!screenshot.empty()) {
-        if (FAILED(dialog.ScreenshotResult())) {
-            std::fprintf(stderr, "orvdemo: cannot write %ls (0x%08lx)\n", screenshot.c_str(),
-                         static_cast<unsigned long>(dialog.ScreenshotResult()));
-            return 1;
-        }
-        std::printf("orvdemo: screenshot written to %ls\n", screenshot.c_str());
-    } else if (result == IDOK) {
-        std::printf("%s\n", orv::demo::Describe(dialog.Settings()).c_str());
-    }
-    return 0;
+    std::printf("orvdemo: screenshot written to %ls\n", screenshot.c_str());
+  } else if (result == IDOK) {
+    std::printf("%s\n", orv::demo::Describe(dialog.Settings()).c_str());
+  }
+  return 0;
 }
 
-} // namespace
+}  // namespace
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int)
-{
-    try {
-        return Run(instance);
-    } catch (const std::exception& e) {
-        std::fprintf(stderr, "orvdemo: %s\n", e.what());
-    } catch (...) {
-        std::fprintf(stderr, "orvdemo: unexpected failure\n");
-    }
-    return 1;
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
+  try {
+    return Run(instance);
+  } catch (const std::exception& e) {
+    std::fprintf(stderr, "orvdemo: %s\n", e.what());
+  } catch (...) {
+    std::fprintf(stderr, "orvdemo: unexpected failure\n");
+  }
+  return 1;
 }

@@ -33,36 +33,36 @@ std::string EscapeEventText(const wchar_t* text, UINT length);
 
 // Prints "StatusEvent: <pValue escaped>" for every StatusEvent and answers plReturn with 0.
 class StatusEventPrinter final : public ComObject<StatusEventPrinter, IDispatch> {
-public:
-    // Lines go to `out` (stdout in the program), flushed after each: StatusEventPrinter::Make(out).
-    explicit StatusEventPrinter(std::FILE* out) : out_(out) {}
-    static std::span<const ComInterfaceEntry> Interfaces();
+ public:
+  // Lines go to `out` (stdout in the program), flushed after each: StatusEventPrinter::Make(out).
+  explicit StatusEventPrinter(std::FILE* out) : out_(out) {}
+  static std::span<const ComInterfaceEntry> Interfaces();
 
-    int EventCount() const { return events_; }
+  int EventCount() const { return events_; }
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override;
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result,
-                                     EXCEPINFO*, UINT* argError) override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo** info) override;
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override;
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* params, VARIANT* result, EXCEPINFO*,
+                                   UINT* argError) override;
 
-private:
-    std::FILE* out_;
-    int events_ = 0;
+ private:
+  std::FILE* out_;
+  int events_ = 0;
 };
 
 // One sink connected to a source's connection point for `iid`, disconnected on destruction.
 class EventConnection {
-public:
-    EventConnection() = default;
-    EventConnection(const EventConnection&) = delete;
-    EventConnection& operator=(const EventConnection&) = delete;
-    ~EventConnection();
-    HRESULT Connect(IUnknown* source, REFIID iid, IUnknown* sink);
+ public:
+  EventConnection() = default;
+  EventConnection(const EventConnection&) = delete;
+  EventConnection& operator=(const EventConnection&) = delete;
+  ~EventConnection();
+  HRESULT Connect(IUnknown* source, REFIID iid, IUnknown* sink);
 
-private:
-    ComPtr<IConnectionPoint> point_;
-    DWORD cookie_ = 0;
+ private:
+  ComPtr<IConnectionPoint> point_;
+  DWORD cookie_ = 0;
 };
 
-} // namespace orv::host_app
+}  // namespace orv::host_app

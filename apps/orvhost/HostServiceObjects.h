@@ -31,29 +31,29 @@ inline constexpr int kThemeColorCount = 31;
 // What the settings service serves. Documents are looked up by name ignoring case; the theme
 // comes from PREFS' //General/Theme, whose Color children fill the record in order.
 class HostSettings {
-public:
-    // A document as the host holds it: Microsoft.XMLDOM with XPath selection. False with
-    // `error` set when it can't be made or the text isn't well-formed.
-    bool AddDocument(const std::wstring& name, const std::wstring& text, std::string& error);
-    IXMLDOMDocument2* Document(const std::wstring& name) const;
+ public:
+  // A document as the host holds it: Microsoft.XMLDOM with XPath selection. False with
+  // `error` set when it can't be made or the text isn't well-formed.
+  bool AddDocument(const std::wstring& name, const std::wstring& text, std::string& error);
+  IXMLDOMDocument2* Document(const std::wstring& name) const;
 
-    // The theme record from PREFS (nothing when PREFS has no //General/Theme). Entries the
-    // document doesn't give stay 0.
-    bool Theme(long (&record)[kThemeColorCount]) const;
+  // The theme record from PREFS (nothing when PREFS has no //General/Theme). Entries the
+  // document doesn't give stay 0.
+  bool Theme(long (&record)[kThemeColorCount]) const;
 
-    // Values by (section, key): the Value elements of PREFS' //General/Values, each with
-    // attributes Section and Key and its text, then whatever SetValue stored.
-    bool Value(const std::wstring& section, const std::wstring& key, std::wstring& value) const;
-    void SetValue(const std::wstring& section, const std::wstring& key, std::wstring value);
+  // Values by (section, key): the Value elements of PREFS' //General/Values, each with
+  // attributes Section and Key and its text, then whatever SetValue stored.
+  bool Value(const std::wstring& section, const std::wstring& key, std::wstring& value) const;
+  void SetValue(const std::wstring& section, const std::wstring& key, std::wstring value);
 
-    // Where SetValue and ShowHelp are reported, one line each.
-    void SetOutput(std::FILE* out) { out_ = out; }
-    std::FILE* Output() const { return out_; }
+  // Where SetValue and ShowHelp are reported, one line each.
+  void SetOutput(std::FILE* out) { out_ = out; }
+  std::FILE* Output() const { return out_; }
 
-private:
-    std::map<std::wstring, ComPtr<IXMLDOMDocument2>> documents_; // upper-case name -> document
-    std::map<std::pair<std::wstring, std::wstring>, std::wstring> values_;
-    std::FILE* out_ = stdout;
+ private:
+  std::map<std::wstring, ComPtr<IXMLDOMDocument2>> documents_;  // upper-case name -> document
+  std::map<std::pair<std::wstring, std::wstring>, std::wstring> values_;
+  std::FILE* out_ = stdout;
 };
 
 ComPtr<ISettingsService> MakeSettingsService(std::shared_ptr<HostSettings> settings);
@@ -61,15 +61,15 @@ ComPtr<IHelpService> MakeHelpService(std::shared_ptr<HostSettings> settings);
 
 // Both services registered for this process while it lives; revoked on destruction.
 class ServiceRegistration {
-public:
-    ServiceRegistration() = default;
-    ServiceRegistration(const ServiceRegistration&) = delete;
-    ServiceRegistration& operator=(const ServiceRegistration&) = delete;
-    ~ServiceRegistration();
-    HRESULT Register(std::shared_ptr<HostSettings> settings);
+ public:
+  ServiceRegistration() = default;
+  ServiceRegistration(const ServiceRegistration&) = delete;
+  ServiceRegistration& operator=(const ServiceRegistration&) = delete;
+  ~ServiceRegistration();
+  HRESULT Register(std::shared_ptr<HostSettings> settings);
 
-private:
-    std::vector<DWORD> cookies_;
+ private:
+  std::vector<DWORD> cookies_;
 };
 
-} // namespace orv::host_app
+}  // namespace orv::host_app

@@ -29,74 +29,81 @@ const char* const kUsage =
     "Exit code: the result (1 changed, 0 not, 2 no such sheet, 255 for -1);\n"
     "3 a bad or failed script, 4 a bad command line or document, 5 the component failed.\n";
 
-ParsedOptions ParseOptions(const std::vector<std::wstring>& args)
-{
-    ParsedOptions parsed;
-    Options& o = parsed.options;
-    bool sawProgId = false, sawDll = false, sawManifest = false;
-    for (std::size_t i = 0; i < args.size(); ++i) {
-        const std::wstring& arg = args[i];
-        // Options that take a value refuse a missing or empty one.
-        auto value = [&](std::wstring& out) {
-            if (i + 1 >= args.size() || args[i + 1].empty()) {
-                parsed.error = StrFormat("%s needs a value", Narrow(arg, CP_UTF8).c_str());
-                return false;
-            }
-            out = args[++i];
-            return true;
-        };
-        if (arg == L"--activate") {
-            std::wstring how;
-            if (!value(how)) return parsed;
-            if (how == L"registered") o.activation = Activation::Registered;
-            else if (how == L"manifest") o.activation = Activation::Manifest;
-            else if (how == L"direct") o.activation = Activation::Direct;
-            else {
-                parsed.error = StrFormat("--activate takes registered, manifest or direct, not \"%s\"", Narrow(how, CP_UTF8).c_str());
-                return parsed;
-            }
-        } else if (arg == L"--progid") {
-            if (!value(o.progId)) return parsed;
-            sawProgId = true;
-        } else if (arg == L"--dll") {
-            if (!value(o.dllPath)) return parsed;
-            sawDll = true;
-        } else if (arg == L"--manifest") {
-            if (!value(o.manifestPath)) return parsed;
-            sawManifest = true;
-        } else if (arg == L"--doc") {
-            if (!value(o.docPath)) return parsed;
-        } else if (arg == L"--script") {
-            if (!value(o.script)) return parsed;
-        } else if (arg == L"--screenshot") {
-            if (!value(o.screenshot)) return parsed;
-        } else if (arg == L"--box-screenshot") {
-            if (!value(o.boxScreenshot)) return parsed;
-        } else if (arg == L"--language") {
-            if (!value(o.languagePath)) return parsed;
-        } else if (arg == L"--prefs") {
-            if (!value(o.prefsPath)) return parsed;
-        } else if (arg == L"--no-services") {
-            o.noServices = true;
-        } else if (arg == L"--no-chart-data") {
-            o.noChartData = true;
-        } else if (arg == L"--intraday") {
-            o.intraday = true;
-        } else if (arg == L"--help" || arg == L"-h" || arg == L"/?") {
-            o.help = true;
-        } else {
-            parsed.error = StrFormat("unknown argument \"%s\"", Narrow(arg, CP_UTF8).c_str());
-            return parsed;
-        }
+ParsedOptions ParseOptions(const std::vector<std::wstring>& args) {
+  ParsedOptions parsed;
+  Options& o = parsed.options;
+  bool sawProgId = false, sawDll = false, sawManifest = false;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::wstring& arg = args[i];
+    // Options that take a value refuse a missing or empty one.
+    auto value = [&](std::wstring& out) {
+      if (i + 1 >= args.size() || args[i + 1].empty()) {
+        parsed.error = StrFormat("%s needs a value", Narrow(arg, CP_UTF8).c_str());
+        return false;
+      }
+      out = args[++i];
+      return true;
+    };
+    if (arg == L"--activate") {
+      std::wstring how;
+      if (!value(how)) return parsed;
+      if (how == L"registered")
+        o.activation = Activation::Registered;
+      else if (how == L"manifest")
+        o.activation = Activation::Manifest;
+      else if (how == L"direct")
+        o.activation = Activation::Direct;
+      else {
+        parsed.error =
+            StrFormat("--activate takes registered, manifest or direct, not \"%s\"", Narrow(how, CP_UTF8).c_str());
+        return parsed;
+      }
+    } else if (arg == L"--progid") {
+      if (!value(o.progId)) return parsed;
+      sawProgId = true;
+    } else if (arg == L"--dll") {
+      if (!value(o.dllPath)) return parsed;
+      sawDll = true;
+    } else if (arg == L"--manifest") {
+      if (!value(o.manifestPath)) return parsed;
+      sawManifest = true;
+    } else if (arg == L"--doc") {
+      if (!value(o.docPath)) return parsed;
+    } else if (arg == L"--script") {
+      if (!value(o.script)) return parsed;
+    } else if (arg == L"--screenshot") {
+      if (!value(o.screenshot)) return parsed;
+    } else if (arg == L"--box-screenshot") {
+      if (!value(o.boxScreenshot)) return parsed;
+    } else if (arg == L"--language") {
+      if (!value(o.languagePath)) return parsed;
+    } else if (arg == L"--prefs") {
+      if (!value(o.prefsPath)) return parsed;
+    } else if (arg == L"--no-services") {
+      o.noServices = true;
+    } else if (arg == L"--no-chart-data") {
+      o.noChartData = true;
+    } else if (arg == L"--intraday") {
+      o.intraday = true;
+    } else if (arg == L"--help" || arg == L"-h" || arg == L"/?") {
+      o.help = true;
+    } else {
+      parsed.error = StrFormat("unknown argument \"%s\"", Narrow(arg, CP_UTF8).c_str());
+      return parsed;
     }
-    // An option that the chosen activation would ignore is a mistake worth saying.
-    if (sawProgId && o.activation == Activation::Direct) parsed.error = "--progid does not go with --activate direct";
-    else if (sawDll && o.activation != Activation::Direct) parsed.error = "--dll goes only with --activate direct";
-    else if (sawManifest && o.activation != Activation::Manifest) parsed.error = "--manifest goes only with --activate manifest";
-    else if (o.intraday && o.noChartData) parsed.error = "--intraday needs chart data; drop --no-chart-data";
-    else if (o.noServices && (!o.languagePath.empty() || !o.prefsPath.empty()))
-        parsed.error = "--language and --prefs need the services; drop --no-services";
-    return parsed;
+  }
+  // An option that the chosen activation would ignore is a mistake worth saying.
+  if (sawProgId && o.activation == Activation::Direct)
+    parsed.error = "--progid does not go with --activate direct";
+  else if (sawDll && o.activation != Activation::Direct)
+    parsed.error = "--dll goes only with --activate direct";
+  else if (sawManifest && o.activation != Activation::Manifest)
+    parsed.error = "--manifest goes only with --activate manifest";
+  else if (o.intraday && o.noChartData)
+    parsed.error = "--intraday needs chart data; drop --no-chart-data";
+  else if (o.noServices && (!o.languagePath.empty() || !o.prefsPath.empty()))
+    parsed.error = "--language and --prefs need the services; drop --no-services";
+  return parsed;
 }
 
-} // namespace orv::host_app
+}  // namespace orv::host_app

@@ -10,37 +10,37 @@
 namespace orv::host_app {
 
 class PopupCapture {
-public:
-    // `path`: where the first window over the sheet goes.
-    explicit PopupCapture(std::wstring path);
-    PopupCapture(const PopupCapture&) = delete;
-    PopupCapture& operator=(const PopupCapture&) = delete;
-    ~PopupCapture();
+ public:
+  // `path`: where the first window over the sheet goes.
+  explicit PopupCapture(std::wstring path);
+  PopupCapture(const PopupCapture&) = delete;
+  PopupCapture& operator=(const PopupCapture&) = delete;
+  ~PopupCapture();
 
-    // Before the modal call. One capture at a time per process.
-    bool Start();
-    // After the modal call.
-    void Stop();
+  // Before the modal call. One capture at a time per process.
+  bool Start();
+  // After the modal call.
+  void Stop();
 
-    // True once the picture is written.
-    bool Written() const { return written_; }
-    // The caption of the window photographed, or empty.
-    const std::string& Caption() const { return caption_; }
-    // Empty unless writing the picture failed.
-    const std::string& Error() const { return error_; }
+  // True once the picture is written.
+  bool Written() const { return written_; }
+  // The caption of the window photographed, or empty.
+  const std::string& Caption() const { return caption_; }
+  // Empty unless writing the picture failed.
+  const std::string& Error() const { return error_; }
 
-private:
-    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
-    void Tick();
+ private:
+  static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD);
+  void Tick();
 
-    std::wstring path_;
-    UINT_PTR timer_ = 0;
-    bool written_ = false;
-    std::string caption_;
-    std::string error_;
+  std::wstring path_;
+  UINT_PTR timer_ = 0;
+  bool written_ = false;
+  std::string caption_;
+  std::string error_;
 };
 
 // The visible window of this thread that `sheet` owns (a message box over it), or null.
 HWND FindWindowOwnedBy(HWND sheet);
 
-} // namespace orv::host_app
+}  // namespace orv::host_app

@@ -10,33 +10,33 @@
 namespace orv::host_app {
 
 enum class ScriptOp {
-    Text,       // text <id> <value>: the control's text, then EN_CHANGE to its parent
-    Click,      // click <id>: BM_CLICK
-    Select,     // select <id> <index>: CB_SETCURSEL or LB_SETCURSEL, then the SELCHANGE command
-    Tab,        // tab <index>: PSM_SETCURSEL
-    Spin,       // spin <id> <delta>: the up-down's UDN_DELTAPOS to its parent, as a click on an arrow
-    Apply,      // apply, ok, cancel, next, back, finish: PSM_PRESSBUTTON
-    Ok,
-    Cancel,
-    Next,
-    Back,
-    Finish,
-    Wait,       // wait <ms>
-    Screenshot, // screenshot <file.png>: the sheet as painted
+  Text,    // text <id> <value>: the control's text, then EN_CHANGE to its parent
+  Click,   // click <id>: BM_CLICK
+  Select,  // select <id> <index>: CB_SETCURSEL or LB_SETCURSEL, then the SELCHANGE command
+  Tab,     // tab <index>: PSM_SETCURSEL
+  Spin,    // spin <id> <delta>: the up-down's UDN_DELTAPOS to its parent, as a click on an arrow
+  Apply,   // apply, ok, cancel, next, back, finish: PSM_PRESSBUTTON
+  Ok,
+  Cancel,
+  Next,
+  Back,
+  Finish,
+  Wait,        // wait <ms>
+  Screenshot,  // screenshot <file.png>: the sheet as painted
 };
 
 struct ScriptStep {
-    ScriptOp op = ScriptOp::Wait;
-    int id = 0;          // control id (text, click, select)
-    int index = 0;       // item or tab index (select, tab), steps (spin)
-    int milliseconds = 0; // wait
-    std::string text;    // value (text) or file name (screenshot), UTF-8
-    std::string source;  // the command as written, for messages
+  ScriptOp op = ScriptOp::Wait;
+  int id = 0;            // control id (text, click, select)
+  int index = 0;         // item or tab index (select, tab), steps (spin)
+  int milliseconds = 0;  // wait
+  std::string text;      // value (text) or file name (screenshot), UTF-8
+  std::string source;    // the command as written, for messages
 };
 
 struct ParsedScript {
-    std::vector<ScriptStep> steps;
-    std::string error; // empty when the whole script is good
+  std::vector<ScriptStep> steps;
+  std::string error;  // empty when the whole script is good
 };
 
 // Commands are separated by new lines and by semicolons outside double quotes. A value or file
@@ -47,4 +47,4 @@ ParsedScript ParseScript(std::string_view text);
 // The longest wait a script may ask for: a script that sleeps longer is surely wrong.
 inline constexpr int kMaxWaitMilliseconds = 60000;
 
-} // namespace orv::host_app
+}  // namespace orv::host_app

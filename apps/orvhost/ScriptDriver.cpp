@@ -17,228 +17,235 @@ constexpr DWORD kSheetTimeoutMilliseconds = 15000;
 // A command that opens a window of its own (a message box) and waits on it this long is stuck.
 constexpr DWORD kStuckMilliseconds = 5000;
 
-ScriptDriver* g_running = nullptr; // the timer callback carries no context
+ScriptDriver* g_running = nullptr;  // the timer callback carries no context
 
-std::string ClassOf(HWND window)
-{
-    char name[64] = {};
-    GetClassNameA(window, name, sizeof(name));
-    return name;
+std::string ClassOf(HWND window) {
+  char name[64] = {};
+  GetClassNameA(window, name, sizeof(name));
+  return name;
 }
 
 bool Elapsed(DWORD now, DWORD since, DWORD span) { return now - since >= span; }
 
-BOOL CALLBACK FindSheetProc(HWND window, LPARAM found)
-{
-    // Only a property sheet answers PSM_GETTABCONTROL.
-    if (IsWindowVisible(window) && SendMessageW(window, PSM_GETTABCONTROL, 0, 0) != 0) {
-        *reinterpret_cast<HWND*>(found) = window;
-        return FALSE;
-    }
-    return TRUE;
+BOOL CALLBACK FindSheetProc(HWND window, LPARAM found) {
+  // Only a property sheet answers PSM_GETTABCONTROL.
+  if (IsWindowVisible(window) && SendMessageW(window, PSM_GETTABCONTROL, 0, 0) != 0) {
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+  }
+  return TRUE;
 }
 
 // A control of the current page that a user could operate, or an error text.
-std::string UsableControl(HWND sheet, int id, HWND& control)
-{
-    const auto page = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
-    if (page == nullptr) return "the sheet has no current page";
-    control = GetDlgItem(page, id);
-    if (control == nullptr) return StrFormat("the current page has no control %d", id);
-    if (!IsWindowVisible(control)) return StrFormat("control %d is hidden", id);
-    if (!IsWindowEnabled(control)) return StrFormat("control %d is disabled", id);
-    return {};
+std::string UsableControl(HWND sheet, int id, HWND& control) {
+  const auto page = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+  if (page == nullptr) return "the sheet has no current page";
+  control = GetDlgItem(page, id);
+  if (control == nullptr) return StrFormat("the current page has no control %d", id);
+  if (!IsWindowVisible(control)) return StrFormat("control %d is hidden", id);
+  if (!IsWindowEnabled(control)) return StrFormat("control %d is disabled", id);
+  return {};
 }
 
-} // namespace
+}  // namespace
 
-HWND FindThreadSheet()
-{
-    HWND found = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), FindSheetProc, reinterpret_cast<LPARAM>(&found));
-    return found;
+HWND FindThreadSheet() {
+  HWND found = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), FindSheetProc, reinterpret_cast<LPARAM>(&found));
+  return found;
 }
 
 ScriptDriver::ScriptDriver(std::vector<ScriptStep> steps) : steps_(std::move(steps)) {}
 
 ScriptDriver::~ScriptDriver() { KillTimerNow(); }
 
-bool ScriptDriver::Start()
-{
-    if (g_running != nullptr) return false;
-    timer_ = SetTimer(nullptr, 0, kTickMilliseconds, &ScriptDriver::OnTimer);
-    if (timer_ == 0) return false;
-    g_running = this;
-    started_ = GetTickCount();
-    return true;
+bool ScriptDriver::Start() {
+  if (g_running != nullptr) return false;
+  timer_ = SetTimer(nullptr, 0, kTickMilliseconds, &ScriptDriver::OnTimer);
+  if (timer_ == 0) return false;
+  g_running = this;
+  started_ = GetTickCount();
+  return true;
 }
 
-void ScriptDriver::Stop()
-{
+void ScriptDriver::Stop() {
+  KillTimerNow();
+  if (sheetSeen_ && next_ < steps_.size() && error_.empty()) {
+    error_ = StrFormat("the sheet closed before command %d (\"%s\")", static_cast<int>(next_ + 1),
+                       steps_[next_].source.c_str());
+  }
+}
+
+void ScriptDriver::KillTimerNow() {
+  if (timer_ != 0) KillTimer(nullptr, timer_);
+  timer_ = 0;
+  if (g_running == this) g_running = nullptr;
+}
+
+void CALLBACK ScriptDriver::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+  // No exception leaves a timer callback.
+  try {
+    if (g_running != nullptr) g_running->Tick();
+  } catch (...) {
+    if (g_running != nullptr) g_running->Fail("unexpected failure while running the script", FindThreadSheet());
+  }
+}
+
+void ScriptDriver::Tick() {
+  const DWORD now = GetTickCount();
+  if (busy_) {
+    // A command is still running: it opened a modal window of its own and waits on it.
+    if (Elapsed(now, busySince_, kStuckMilliseconds)) {
+      const HWND stuck = GetActiveWindow();
+      if (stuck != nullptr && stuck != FindThreadSheet()) {
+        std::string caption(256, '\0');
+        caption.resize(static_cast<std::size_t>(GetWindowTextA(stuck, caption.data(), 256)));
+        if (error_.empty()) {
+          error_ = StrFormat("command %d (\"%s\") left a window open (\"%s\")", static_cast<int>(next_ + 1),
+                             steps_[next_].source.c_str(), caption.c_str());
+        }
+        PostMessageW(stuck, WM_COMMAND, IDCANCEL, 0);
+        busySince_ = now;
+      }
+    }
+    return;
+  }
+  if (!error_.empty()) {
+    // A command failed while it ran (it left a window open): the sheet is cancelled too.
+    Fail(error_, FindThreadSheet());
+    return;
+  }
+  if (next_ >= steps_.size()) {
     KillTimerNow();
-    if (sheetSeen_ && next_ < steps_.size() && error_.empty()) {
-        error_ = StrFormat("the sheet closed before command %d (\"%s\")", static_cast<int>(next_ + 1),
-                           steps_[next_].source.c_str());
+    return;
+  }
+  const HWND sheet = FindThreadSheet();
+  if (sheet == nullptr) {
+    if (sheetSeen_) {
+      // The sheet closed before the script's end: say so after the modal call returns.
+      Fail(StrFormat("the sheet closed before command %d (\"%s\")", static_cast<int>(next_ + 1),
+                     steps_[next_].source.c_str()),
+           nullptr);
+    } else if (Elapsed(now, started_, kSheetTimeoutMilliseconds)) {
+      Fail("no sheet appeared within 15 seconds", nullptr);
     }
-}
+    return;
+  }
+  if (!sheetSeen_) {
+    sheetSeen_ = true;
+    notBefore_ = now + kSettleMilliseconds;
+    return;
+  }
+  if (static_cast<LONG>(now - notBefore_) < 0) return;
 
-void ScriptDriver::KillTimerNow()
-{
-    if (timer_ != 0) KillTimer(nullptr, timer_);
-    timer_ = 0;
-    if (g_running == this) g_running = nullptr;
-}
-
-void CALLBACK ScriptDriver::OnTimer(HWND, UINT, UINT_PTR, DWORD)
-{
-    // No exception leaves a timer callback.
-    try {
-        if (g_running != nullptr) g_running->Tick();
-    } catch (...) {
-        if (g_running != nullptr) g_running->Fail("unexpected failure while running the script", FindThreadSheet());
-    }
-}
-
-void ScriptDriver::Tick()
-{
-    const DWORD now = GetTickCount();
-    if (busy_) {
-        // A command is still running: it opened a modal window of its own and waits on it.
-        if (Elapsed(now, busySince_, kStuckMilliseconds)) {
-            const HWND stuck = GetActiveWindow();
-            if (stuck != nullptr && stuck != FindThreadSheet()) {
-                std::string caption(256, '\0');
-                caption.resize(static_cast<std::size_t>(GetWindowTextA(stuck, caption.data(), 256)));
-                if (error_.empty()) {
-                    error_ = StrFormat("command %d (\"%s\") left a window open (\"%s\")", static_cast<int>(next_ + 1),
-                                       steps_[next_].source.c_str(), caption.c_str());
-                }
-                PostMessageW(stuck, WM_COMMAND, IDCANCEL, 0);
-                busySince_ = now;
-            }
-        }
-        return;
-    }
-    if (!error_.empty()) {
-        // A command failed while it ran (it left a window open): the sheet is cancelled too.
-        Fail(error_, FindThreadSheet());
-        return;
-    }
-    if (next_ >= steps_.size()) {
-        KillTimerNow();
-        return;
-    }
-    const HWND sheet = FindThreadSheet();
-    if (sheet == nullptr) {
-        if (sheetSeen_) {
-            // The sheet closed before the script's end: say so after the modal call returns.
-            Fail(StrFormat("the sheet closed before command %d (\"%s\")", static_cast<int>(next_ + 1), steps_[next_].source.c_str()),
-                 nullptr);
-        } else if (Elapsed(now, started_, kSheetTimeoutMilliseconds)) {
-            Fail("no sheet appeared within 15 seconds", nullptr);
-        }
-        return;
-    }
-    if (!sheetSeen_) {
-        sheetSeen_ = true;
-        notBefore_ = now + kSettleMilliseconds;
-        return;
-    }
-    if (static_cast<LONG>(now - notBefore_) < 0) return;
-
-    const ScriptStep& step = steps_[next_];
-    busy_ = true;
-    busySince_ = now;
-    std::string why;
-    try {
-        why = Run(step, sheet);
-    } catch (...) {
-        busy_ = false;
-        throw;
-    }
+  const ScriptStep& step = steps_[next_];
+  busy_ = true;
+  busySince_ = now;
+  std::string why;
+  try {
+    why = Run(step, sheet);
+  } catch (...) {
     busy_ = false;
-    if (!why.empty()) {
-        Fail(StrFormat("command %d (\"%s\"): %s", static_cast<int>(next_ + 1), step.source.c_str(), why.c_str()), FindThreadSheet());
-        return;
-    }
-    ++next_;
-    if (step.op == ScriptOp::Wait) notBefore_ = GetTickCount() + static_cast<DWORD>(step.milliseconds);
-    if (next_ == steps_.size()) KillTimerNow();
+    throw;
+  }
+  busy_ = false;
+  if (!why.empty()) {
+    Fail(StrFormat("command %d (\"%s\"): %s", static_cast<int>(next_ + 1), step.source.c_str(), why.c_str()),
+         FindThreadSheet());
+    return;
+  }
+  ++next_;
+  if (step.op == ScriptOp::Wait) notBefore_ = GetTickCount() + static_cast<DWORD>(step.milliseconds);
+  if (next_ == steps_.size()) KillTimerNow();
 }
 
-void ScriptDriver::Fail(std::string why, HWND sheet)
-{
-    if (error_.empty()) error_ = std::move(why);
-    KillTimerNow();
-    // The user's way out of a dialog that can't be driven further.
-    if (sheet != nullptr) SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
+void ScriptDriver::Fail(std::string why, HWND sheet) {
+  if (error_.empty()) error_ = std::move(why);
+  KillTimerNow();
+  // The user's way out of a dialog that can't be driven further.
+  if (sheet != nullptr) SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
 }
 
-std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet)
-{
-    HWND control = nullptr;
-    std::string why;
-    switch (step.op) {
+std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet) {
+  HWND control = nullptr;
+  std::string why;
+  switch (step.op) {
     case ScriptOp::Text: {
-        if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
-        const std::wstring text = Widen(step.text, CP_UTF8);
-        SendMessageW(control, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
-        SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(step.id, EN_CHANGE), reinterpret_cast<LPARAM>(control));
-        return {};
+      if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
+      const std::wstring text = Widen(step.text, CP_UTF8);
+      SendMessageW(control, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+      SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(step.id, EN_CHANGE), reinterpret_cast<LPARAM>(control));
+      return {};
     }
     case ScriptOp::Click:
-        if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
-        SendMessageW(control, BM_CLICK, 0, 0);
-        return {};
+      if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
+      SendMessageW(control, BM_CLICK, 0, 0);
+      return {};
     case ScriptOp::Select: {
-        if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
-        const std::string kind = ClassOf(control);
-        const bool combo = _stricmp(kind.c_str(), "ComboBox") == 0;
-        const bool list = _stricmp(kind.c_str(), "ListBox") == 0;
-        if (!combo && !list) return StrFormat("control %d is a %s, not a combo or list box", step.id, kind.c_str());
-        const LRESULT count = SendMessageW(control, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
-        if (step.index >= count) return StrFormat("control %d has %ld items, no item %d", step.id, static_cast<long>(count), step.index);
-        SendMessageW(control, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(step.index), 0);
-        SendMessageW(GetParent(control), WM_COMMAND,
-                     MAKEWPARAM(step.id, combo ? CBN_SELCHANGE : LBN_SELCHANGE), reinterpret_cast<LPARAM>(control));
-        return {};
+      if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
+      const std::string kind = ClassOf(control);
+      const bool combo = _stricmp(kind.c_str(), "ComboBox") == 0;
+      const bool list = _stricmp(kind.c_str(), "ListBox") == 0;
+      if (!combo && !list) return StrFormat("control %d is a %s, not a combo or list box", step.id, kind.c_str());
+      const LRESULT count = SendMessageW(control, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
+      if (step.index >= count)
+        return StrFormat("control %d has %ld items, no item %d", step.id, static_cast<long>(count), step.index);
+      SendMessageW(control, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(step.index), 0);
+      SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(step.id, combo ? CBN_SELCHANGE : LBN_SELCHANGE),
+                   reinterpret_cast<LPARAM>(control));
+      return {};
     }
     case ScriptOp::Spin: {
-        if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
-        if (ClassOf(control) != UPDOWN_CLASSA) return StrFormat("control %d is a %s, not an up-down", step.id, ClassOf(control).c_str());
-        // What the control sends when an arrow is clicked; the page may take the move or refuse it.
-        NMUPDOWN move{};
-        move.hdr.hwndFrom = control;
-        move.hdr.idFrom = static_cast<UINT_PTR>(step.id);
-        move.hdr.code = UDN_DELTAPOS;
-        move.iPos = static_cast<int>(SendMessageW(control, UDM_GETPOS32, 0, 0));
-        move.iDelta = step.index;
-        SendMessageW(GetParent(control), WM_NOTIFY, static_cast<WPARAM>(step.id), reinterpret_cast<LPARAM>(&move));
-        return {};
+      if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
+      if (ClassOf(control) != UPDOWN_CLASSA)
+        return StrFormat("control %d is a %s, not an up-down", step.id, ClassOf(control).c_str());
+      // What the control sends when an arrow is clicked; the page may take the move or refuse it.
+      NMUPDOWN move{};
+      move.hdr.hwndFrom = control;
+      move.hdr.idFrom = static_cast<UINT_PTR>(step.id);
+      move.hdr.code = UDN_DELTAPOS;
+      move.iPos = static_cast<int>(SendMessageW(control, UDM_GETPOS32, 0, 0));
+      move.iDelta = step.index;
+      SendMessageW(GetParent(control), WM_NOTIFY, static_cast<WPARAM>(step.id), reinterpret_cast<LPARAM>(&move));
+      return {};
     }
     case ScriptOp::Tab: {
-        const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
-        const LRESULT count = tabs != nullptr ? SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0) : 0;
-        if (step.index >= count) return StrFormat("the sheet has %ld tabs, no tab %d", static_cast<long>(count), step.index);
-        if (!SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(step.index), 0)) {
-            return StrFormat("the sheet refused to show tab %d", step.index);
-        }
-        return {};
+      const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
+      const LRESULT count = tabs != nullptr ? SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0) : 0;
+      if (step.index >= count)
+        return StrFormat("the sheet has %ld tabs, no tab %d", static_cast<long>(count), step.index);
+      if (!SendMessageW(sheet, PSM_SETCURSEL, static_cast<WPARAM>(step.index), 0)) {
+        return StrFormat("the sheet refused to show tab %d", step.index);
+      }
+      return {};
     }
-    case ScriptOp::Apply: SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_APPLYNOW, 0); return {};
-    case ScriptOp::Ok: SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_OK, 0); return {};
-    case ScriptOp::Cancel: SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0); return {};
-    case ScriptOp::Next: SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_NEXT, 0); return {};
-    case ScriptOp::Back: SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_BACK, 0); return {};
-    case ScriptOp::Finish: SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_FINISH, 0); return {};
-    case ScriptOp::Wait: return {};
+    case ScriptOp::Apply:
+      SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_APPLYNOW, 0);
+      return {};
+    case ScriptOp::Ok:
+      SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_OK, 0);
+      return {};
+    case ScriptOp::Cancel:
+      SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
+      return {};
+    case ScriptOp::Next:
+      SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_NEXT, 0);
+      return {};
+    case ScriptOp::Back:
+      SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_BACK, 0);
+      return {};
+    case ScriptOp::Finish:
+      SendMessageW(sheet, PSM_PRESSBUTTON, PSBTN_FINISH, 0);
+      return {};
+    case ScriptOp::Wait:
+      return {};
     case ScriptOp::Screenshot: {
-        const HRESULT hr = apps::CaptureWindowToPng(sheet, Widen(step.text, CP_UTF8));
-        if (FAILED(hr)) return StrFormat("cannot write %s (0x%08lX)", step.text.c_str(), static_cast<unsigned long>(hr));
-        return {};
+      const HRESULT hr = apps::CaptureWindowToPng(sheet, Widen(step.text, CP_UTF8));
+      if (FAILED(hr)) return StrFormat("cannot write %s (0x%08lX)", step.text.c_str(), static_cast<unsigned long>(hr));
+      return {};
     }
-    }
-    return "unknown command";
+  }
+  return "unknown command";
 }
 
-} // namespace orv::host_app
+}  // namespace orv::host_app

@@ -67,7 +67,7 @@ class Controls {
   virtual int ComboAddString(int id, std::string_view text, std::intptr_t itemData) = 0;
   virtual int ComboGetCount(int id) = 0;
   virtual int ComboGetCurSel(int id) = 0;
-  virtual bool ComboSetCurSel(int id, int index) = 0;  // -1 clears the selection
+  virtual bool ComboSetCurSel(int id, int index) = 0;             // -1 clears the selection
   virtual std::intptr_t ComboGetItemData(int id, int index) = 0;  // 0 when there is no such item
   virtual std::string ComboGetLBText(int id, int index) = 0;
   // Index of the first item whose item data equals `itemData`, or -1.
@@ -93,8 +93,8 @@ class Controls {
   virtual bool ListViewSetItemText(int id, int item, int subItem, std::string_view text) = 0;
   virtual bool ListViewGetCheckState(int id, int item) = 0;
   virtual bool ListViewSetCheckState(int id, int item, bool checked) = 0;
-  virtual int ListViewGetSelectedItem(int id) = 0;               // first selected, or -1
-  virtual bool ListViewSelectItem(int id, int item) = 0;         // -1 clears the selection
+  virtual int ListViewGetSelectedItem(int id) = 0;        // first selected, or -1
+  virtual bool ListViewSelectItem(int id, int item) = 0;  // -1 clears the selection
 
   // --- up-down controls (UDM_*32) ---
   virtual bool UpDownSetRange(int id, int lower, int upper) = 0;

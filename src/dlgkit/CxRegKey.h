@@ -16,9 +16,9 @@ namespace orv {
 // The program's values under HKEY_CURRENT_USER.
 inline constexpr char kOrvaneKey[] = "Software\\ZEL\\Orvane";
 inline constexpr char kUseOldPaletteValue[] = "UseOldPalette";  // DWORD; non-zero: the older palette
-inline constexpr char kChartKey[] = "Software\\ZEL\\Chart";      // the seasonal wizard's values
+inline constexpr char kChartKey[] = "Software\\ZEL\\Chart";     // the seasonal wizard's values
 inline constexpr char kZelKey[] = "Software\\ZEL";
-inline constexpr char kOrvInstallOptsValue[] = "OrvInstallOpts"; // DWORD
+inline constexpr char kOrvInstallOptsValue[] = "OrvInstallOpts";  // DWORD
 
 class CxRegKey {
  public:

@@ -23,10 +23,13 @@ struct CDataValidateError {
   static constexpr int kInt = 2;     // intData holds value, min, max
   static constexpr int kDouble = 4;  // floatData holds value, min, max
   int nDataType = 0;
-  struct { int nVal = 0, nMin = 0, nMax = 0; } intData;
-  struct { double nVal = 0, nMin = 0, nMax = 0; } floatData;
+  struct {
+    int nVal = 0, nMin = 0, nMax = 0;
+  } intData;
+  struct {
+    double nVal = 0, nMin = 0, nMax = 0;
+  } floatData;
 };
-
 
 template <class T>
 class CWinDataExchangeZel {
@@ -151,11 +154,10 @@ class CWinDataExchangeZel {
   static std::string DataValidateErrorText(const CDataValidateError& error) {
     switch (error.nDataType) {
       case CDataValidateError::kInt:
-        return orv::StrFormat("%d out of range: [%d,%d]", error.intData.nVal, error.intData.nMin,
-                                               error.intData.nMax);
+        return orv::StrFormat("%d out of range: [%d,%d]", error.intData.nVal, error.intData.nMin, error.intData.nMax);
       case CDataValidateError::kDouble:
-        return orv::StrFormat("%g out of range: [%g,%g]", error.floatData.nVal,
-                                               error.floatData.nMin, error.floatData.nMax);
+        return orv::StrFormat("%g out of range: [%g,%g]", error.floatData.nVal, error.floatData.nMin,
+                              error.floatData.nMax);
       default:
         return {};
     }

@@ -59,8 +59,7 @@ std::int32_t MulDiv(std::int32_t a, std::int32_t b, std::int32_t c) {
   const std::int64_t product = multiplicand * b;
   // Half the divisor towards the sign of the product: rounds halves away from zero.
   const std::int64_t result = (product >= 0 ? product + divisor / 2 : product - divisor / 2) / divisor;
-  if (result > std::numeric_limits<std::int32_t>::max() || result < std::numeric_limits<std::int32_t>::min())
-    return -1;
+  if (result > std::numeric_limits<std::int32_t>::max() || result < std::numeric_limits<std::int32_t>::min()) return -1;
   return static_cast<std::int32_t>(result);
 }
 

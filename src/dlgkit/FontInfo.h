@@ -48,8 +48,7 @@ class FontOps {
   virtual int GetScreenLogPixelsY() = 0;
   // tmHeight and tmInternalLeading of the font made from `font` on a screen device context;
   // false when either can't be made.
-  virtual bool GetScreenTextMetrics(const LogFont& font, std::int32_t& height,
-                                    std::int32_t& internalLeading) = 0;
+  virtual bool GetScreenTextMetrics(const LogFont& font, std::int32_t& height, std::int32_t& internalLeading) = 0;
   // Null when no font can be made.
   virtual FontHandle CreateFontIndirectA(const LogFont& font) = 0;
   virtual bool DeleteObject(FontHandle font) = 0;

@@ -8,9 +8,7 @@ HostServices* g_override = nullptr;
 
 HostServices& CurrentHostServices() { return g_override ? *g_override : PlatformHostServices(); }
 
-ScopedHostServices::ScopedHostServices(HostServices& services) : previous_(g_override) {
-  g_override = &services;
-}
+ScopedHostServices::ScopedHostServices(HostServices& services) : previous_(g_override) { g_override = &services; }
 
 ScopedHostServices::~ScopedHostServices() { g_override = previous_; }
 

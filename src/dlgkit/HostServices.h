@@ -24,19 +24,18 @@ class SettingsService {
   virtual void GetValue(const std::string& section, const std::string& key, std::string& value,
                         std::int32_t& result) = 0;
   // Stores a 32-bit value of the given XmlValueKind ("Displays/Seasonal", "ByWizard", 1, 4).
-  virtual void SetValue(const std::string& section, const std::string& key, std::int32_t value,
-                        std::int32_t kind, std::int32_t& result) = 0;
+  virtual void SetValue(const std::string& section, const std::string& key, std::int32_t value, std::int32_t kind,
+                        std::int32_t& result) = 0;
   // Fills the record; result non-zero means the host has no theme (the record is then not
   // trusted).
   virtual void GetTheme(ThemeColors& theme, std::int32_t zero, std::int32_t& result) = 0;
   // The text of the node that `xpath` selects in the named document ("LANGUAGE", "PREFS"), or of
   // its attribute when `attribute` is not empty. `kind` is 17 for text.
-  virtual void GetDocumentValue(const std::string& document, const std::string& xpath,
-                                const std::string& attribute, std::int32_t kind,
-                                std::string& value, std::int32_t& result) = 0;
+  virtual void GetDocumentValue(const std::string& document, const std::string& xpath, const std::string& attribute,
+                                std::int32_t kind, std::string& value, std::int32_t& result) = 0;
   // The node that `xpath` selects in the named document; null when there is none.
-  virtual void GetDocumentNode(const std::string& document, const std::string& xpath,
-                               XmlNode& node, std::int32_t& result) = 0;
+  virtual void GetDocumentNode(const std::string& document, const std::string& xpath, XmlNode& node,
+                               std::int32_t& result) = 0;
 };
 
 // The kind GetDocumentValue is asked for: the value as text.
@@ -46,8 +45,7 @@ class HelpService {
  public:
   virtual ~HelpService() = default;
   // A failed call raises XmlComError.
-  virtual void ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags,
-                        std::int32_t& result) = 0;
+  virtual void ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags, std::int32_t& result) = 0;
 };
 
 class HostServices {

@@ -5,19 +5,16 @@ namespace {
 class ThemeServingSettings : public SettingsService {
  public:
   explicit ThemeServingSettings(const ThemeColors& theme) : theme_(theme) {}
-  void GetValue(const std::string&, const std::string&, std::string&, std::int32_t& result) override {
-    result = kNone;
-  }
-  void SetValue(const std::string&, const std::string&, std::int32_t, std::int32_t,
-                std::int32_t& result) override {
+  void GetValue(const std::string&, const std::string&, std::string&, std::int32_t& result) override { result = kNone; }
+  void SetValue(const std::string&, const std::string&, std::int32_t, std::int32_t, std::int32_t& result) override {
     result = kNone;
   }
   void GetTheme(ThemeColors& theme, std::int32_t, std::int32_t& result) override {
     theme = theme_;
     result = 0;
   }
-  void GetDocumentValue(const std::string&, const std::string&, const std::string&, std::int32_t,
-                        std::string&, std::int32_t& result) override {
+  void GetDocumentValue(const std::string&, const std::string&, const std::string&, std::int32_t, std::string&,
+                        std::int32_t& result) override {
     result = kNone;
   }
   void GetDocumentNode(const std::string&, const std::string&, XmlNode&, std::int32_t& result) override {

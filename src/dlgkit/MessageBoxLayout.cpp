@@ -27,20 +27,43 @@ constexpr int kTextGap = 7;    // kept between the text and the buttons
 MessageBoxStyle MessageBoxStyleFromFlags(unsigned flags) {
   MessageBoxStyle style;
   switch (flags & 15u) {
-    case 1: style.buttons = {kOk, kCancel}; break;
-    case 2: style.buttons = {kAbort, kRetry, kIgnore}, style.cancelId = -1; break;
-    case 3: style.buttons = {kYes, kNo, kCancel}; break;
-    case 4: style.buttons = {kYes, kNo}, style.cancelId = -1; break;
-    case 5: style.buttons = {kRetry, kCancel}; break;
-    case 6: style.buttons = {kCancel, kTryAgain, kContinue}, style.cancelId = -1; break;
-    default: style.buttons = {kOk}, style.cancelId = 1; break;
+    case 1:
+      style.buttons = {kOk, kCancel};
+      break;
+    case 2:
+      style.buttons = {kAbort, kRetry, kIgnore}, style.cancelId = -1;
+      break;
+    case 3:
+      style.buttons = {kYes, kNo, kCancel};
+      break;
+    case 4:
+      style.buttons = {kYes, kNo}, style.cancelId = -1;
+      break;
+    case 5:
+      style.buttons = {kRetry, kCancel};
+      break;
+    case 6:
+      style.buttons = {kCancel, kTryAgain, kContinue}, style.cancelId = -1;
+      break;
+    default:
+      style.buttons = {kOk}, style.cancelId = 1;
+      break;
   }
   switch (flags & 0x70u) {
-    case 0x10: style.iconResource = 32513; break;  // hand
-    case 0x20: style.iconResource = 32514; break;  // question
-    case 0x30: style.iconResource = 32515; break;  // exclamation
-    case 0x40: style.iconResource = 32516; break;  // asterisk
-    default: break;
+    case 0x10:
+      style.iconResource = 32513;
+      break;  // hand
+    case 0x20:
+      style.iconResource = 32514;
+      break;  // question
+    case 0x30:
+      style.iconResource = 32515;
+      break;  // exclamation
+    case 0x40:
+      style.iconResource = 32516;
+      break;  // asterisk
+    default:
+      break;
   }
   style.defaultIndex = static_cast<int>((flags >> 8) & 3u);
   return style;
@@ -61,8 +84,8 @@ MessageBoxTemplate MessageBoxTemplateFor(const MessageBoxStyle& style) {
   return t;
 }
 
-MessageBoxFit FitMessageBoxText(int textTop, int textRoom, bool hasIcon, int iconTop, int iconHeight,
-                                int measuredWidth, int measuredHeight, int widthBesideButtons) {
+MessageBoxFit FitMessageBoxText(int textTop, int textRoom, bool hasIcon, int iconTop, int iconHeight, int measuredWidth,
+                                int measuredHeight, int widthBesideButtons) {
   MessageBoxFit fit{textTop, measuredHeight, 0, 0};
   if (hasIcon && measuredHeight < iconHeight / 2) {
     // A short text sits level with the middle of the icon.

@@ -17,9 +17,9 @@ struct MessageBoxButton {
 
 struct MessageBoxStyle {
   std::vector<MessageBoxButton> buttons;  // in display order
-  int cancelId = 2;         // what Esc and the Close box give; -1: the box cannot be cancelled
-  int iconResource = 0;     // the platform's stock icon (32513 ...), 0 for none
-  int defaultIndex = 0;     // the button marked default; none when beyond the buttons
+  int cancelId = 2;                       // what Esc and the Close box give; -1: the box cannot be cancelled
+  int iconResource = 0;                   // the platform's stock icon (32513 ...), 0 for none
+  int defaultIndex = 0;                   // the button marked default; none when beyond the buttons
 };
 
 // The buttons (flags & 15), the icon (flags & 0x70) and the default button ((flags >> 8) & 3).
@@ -37,8 +37,8 @@ inline constexpr int kMessageBoxFontPoints = 9;
 
 // The box's template in dialog units.
 struct MessageBoxTemplate {
-  int cx, cy;                           // the dialog
-  DialogUnitRect icon;                  // shown only with an icon
+  int cx, cy;           // the dialog
+  DialogUnitRect icon;  // shown only with an icon
   DialogUnitRect text;
   std::vector<DialogUnitRect> buttons;  // as the style lists them
   // The height the template leaves the text: the band from its top to the buttons' top, less
@@ -51,13 +51,13 @@ MessageBoxTemplate MessageBoxTemplateFor(const MessageBoxStyle& style);
 // (both as laid out), the measured text (word-broken at the text control's width), and the
 // width beside the buttons that the text may use without widening the box.
 struct MessageBoxFit {
-  int textTop;      // the text's new top: moved down to centre on the icon when lower than half of it
-  int textHeight;   // what the text control needs
-  int growWidth;    // the box and buttons move by these; never negative
+  int textTop;     // the text's new top: moved down to centre on the icon when lower than half of it
+  int textHeight;  // what the text control needs
+  int growWidth;   // the box and buttons move by these; never negative
   int growHeight;
 };
-MessageBoxFit FitMessageBoxText(int textTop, int textRoom, bool hasIcon, int iconTop, int iconHeight,
-                                int measuredWidth, int measuredHeight, int widthBesideButtons);
+MessageBoxFit FitMessageBoxText(int textTop, int textRoom, bool hasIcon, int iconTop, int iconHeight, int measuredWidth,
+                                int measuredHeight, int widthBesideButtons);
 
 // The text as shown: one trailing newline dropped.
 std::string_view MessageBoxShownText(std::string_view text);

@@ -8,8 +8,7 @@ namespace {
 
 bool ClassIs(const char* className, const char* expected) {
   for (; *className && *expected; ++className, ++expected)
-    if (std::tolower(static_cast<unsigned char>(*className)) !=
-        std::tolower(static_cast<unsigned char>(*expected)))
+    if (std::tolower(static_cast<unsigned char>(*className)) != std::tolower(static_cast<unsigned char>(*expected)))
       return false;
   return *className == *expected;
 }
@@ -48,13 +47,11 @@ double DisplayScale(WindowOps& ops) {
   return dpi > 0 ? dpi / 96.0 : 1.0;
 }
 
-void ScanDialogChildren(WindowOps& ops, WindowHandle dialog, bool themeActive,
-                        const ThemeColors& colors,
-                        std::vector<std::unique_ptr<COrvThemedControl>>& controls,
-                        COrvTabbyCtrl*& tabControl, std::vector<WindowHandle>& themeTargets) {
+void ScanDialogChildren(WindowOps& ops, WindowHandle dialog, bool themeActive, const ThemeColors& colors,
+                        std::vector<std::unique_ptr<COrvThemedControl>>& controls, COrvTabbyCtrl*& tabControl,
+                        std::vector<WindowHandle>& themeTargets) {
   const auto themeRecord = reinterpret_cast<std::intptr_t>(&colors);
-  for (WindowHandle child = ops.GetWindow(dialog, kGwChild); child;
-       child = ops.GetWindow(child, kGwHwndNext)) {
+  for (WindowHandle child = ops.GetWindow(dialog, kGwChild); child; child = ops.GetWindow(child, kGwHwndNext)) {
     char className[50] = {};
     char text[20] = {};
     ops.GetClassNameA(child, className, sizeof className);
@@ -103,8 +100,7 @@ void ScanDialogChildren(WindowOps& ops, WindowHandle dialog, bool themeActive,
         if (themeActive) ops.SendMessageA(child, WM_ORV_THEME, 0, themeRecord);
         themeTargets.push_back(child);
         control->SetControlId(ops.GetDlgCtrlID(child));
-        if (control->Kind() == ThemedControlKind::Tab)
-          tabControl = static_cast<COrvTabbyCtrl*>(control.get());
+        if (control->Kind() == ThemedControlKind::Tab) tabControl = static_cast<COrvTabbyCtrl*>(control.get());
         controls.push_back(std::move(control));
         continue;
       }
@@ -118,8 +114,8 @@ void ScanDialogChildren(WindowOps& ops, WindowHandle dialog, bool themeActive,
   }
 }
 
-WindowHandle NotificationSource(WindowOps& ops, WindowHandle dialog, unsigned message,
-                                std::uintptr_t wParam, std::intptr_t lParam) {
+WindowHandle NotificationSource(WindowOps& ops, WindowHandle dialog, unsigned message, std::uintptr_t wParam,
+                                std::intptr_t lParam) {
   switch (message) {
     case kWmCommand:
       return reinterpret_cast<WindowHandle>(lParam);
@@ -134,9 +130,7 @@ WindowHandle NotificationSource(WindowOps& ops, WindowHandle dialog, unsigned me
     case kWmDrawItem:
       return wParam && lParam ? As<DrawItemHead>(lParam)->hwndItem : nullptr;
     case kWmMeasureItem:
-      return wParam && lParam
-                 ? ops.GetDlgItem(dialog, static_cast<int>(As<MeasureItemHead>(lParam)->ctlId))
-                 : nullptr;
+      return wParam && lParam ? ops.GetDlgItem(dialog, static_cast<int>(As<MeasureItemHead>(lParam)->ctlId)) : nullptr;
     case kWmCompareItem:
       return wParam && lParam ? As<CompareItemHead>(lParam)->hwndItem : nullptr;
     case kWmDeleteItem:

@@ -27,15 +27,14 @@ namespace orv {
 double DisplayScale(WindowOps& ops);
 
 // The child scan over a dialog's direct children; see COrvDialog::SubclassControls.
-void ScanDialogChildren(WindowOps& ops, WindowHandle dialog, bool themeActive,
-                        const ThemeColors& colors,
-                        std::vector<std::unique_ptr<COrvThemedControl>>& controls,
-                        COrvTabbyCtrl*& tabControl, std::vector<WindowHandle>& themeTargets);
+void ScanDialogChildren(WindowOps& ops, WindowHandle dialog, bool themeActive, const ThemeColors& colors,
+                        std::vector<std::unique_ptr<COrvThemedControl>>& controls, COrvTabbyCtrl*& tabControl,
+                        std::vector<WindowHandle>& themeTargets);
 
 // The child that sent a notification the way the platform's window libraries find it for
 // reflection; null when the message names none.
-WindowHandle NotificationSource(WindowOps& ops, WindowHandle dialog, unsigned message,
-                                std::uintptr_t wParam, std::intptr_t lParam);
+WindowHandle NotificationSource(WindowOps& ops, WindowHandle dialog, unsigned message, std::uintptr_t wParam,
+                                std::intptr_t lParam);
 
 }  // namespace orv
 
@@ -73,8 +72,7 @@ class COrvDialog {
   void SubclassControls() {
     if (m_scanned || !m_window) return;
     m_scanned = true;
-    orv::ScanDialogChildren(*m_ops, m_window, m_themeActive, m_colors, m_controls, m_tabControl,
-                            m_themeTargets);
+    orv::ScanDialogChildren(*m_ops, m_window, m_themeActive, m_colors, m_controls, m_tabControl, m_themeTargets);
   }
 
   // Fetches the host's theme and pushes it into every theme target. False when there is no
@@ -101,8 +99,8 @@ class COrvDialog {
   }
 
   // The dialog's own painting; map 0 only. True when handled, with `result` the answer.
-  bool ProcessThemeMessage(orv::WindowHandle window, unsigned message, std::uintptr_t wParam,
-                           std::intptr_t lParam, std::intptr_t& result, unsigned long mapId = 0) {
+  bool ProcessThemeMessage(orv::WindowHandle window, unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                           std::intptr_t& result, unsigned long mapId = 0) {
     if (mapId != 0) return false;
     auto dc = reinterpret_cast<orv::DeviceContext>(wParam);
     switch (message) {
@@ -131,8 +129,8 @@ class COrvDialog {
 
   // Sends a notification the dialog didn't handle back to the control that sent it, as message
   // + 0x2000 (WM_COMMAND, WM_NOTIFY, WM_DRAWITEM, WM_MEASUREITEM, WM_CTLCOLOR*, ...).
-  bool ReflectNotifications(orv::WindowHandle window, unsigned message, std::uintptr_t wParam,
-                            std::intptr_t lParam, std::intptr_t& result) {
+  bool ReflectNotifications(orv::WindowHandle window, unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                            std::intptr_t& result) {
     orv::WindowHandle child = orv::NotificationSource(*m_ops, window, message, wParam, lParam);
     if (!child) return false;
     result = m_ops->SendMessageA(child, message + orv::kReflectedMessageBase, wParam, lParam);
@@ -144,9 +142,7 @@ class COrvDialog {
   double GetDisplayScale() const { return m_displayScale; }
   orv::BrushHandle GetBackgroundBrush() const { return m_backgroundBrush.get(); }
   orv::BrushHandle GetFieldBrush() const { return m_fieldBrush.get(); }
-  const std::vector<std::unique_ptr<COrvThemedControl>>& GetControlObjects() const {
-    return m_controls;
-  }
+  const std::vector<std::unique_ptr<COrvThemedControl>>& GetControlObjects() const { return m_controls; }
   COrvTabbyCtrl* GetTabControl() const { return m_tabControl; }
   const std::vector<orv::WindowHandle>& GetThemeTargets() const { return m_themeTargets; }
 
@@ -168,8 +164,7 @@ class COrvDialog {
            std::string_view(name) == "SysDateTimePick32";
   }
 
-  bool AnswerColor(orv::DeviceContext dc, const orv::Brush& brush, std::uint32_t brushColor,
-                   std::intptr_t& result) {
+  bool AnswerColor(orv::DeviceContext dc, const orv::Brush& brush, std::uint32_t brushColor, std::intptr_t& result) {
     if (!m_hookCalled) {
       m_hookCalled = true;
       OnFirstColor();

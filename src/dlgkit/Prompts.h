@@ -24,8 +24,8 @@ std::string GetPrompt(std::string_view tag);
 // One colour of the host's colour table: the list shows an empty first column, the tag in the
 // second and a swatch of the colour.
 struct ColorTableItem {
-  std::string tag;     // the element's ThemeTag attribute; empty when it has none
-  std::uint32_t color; // COLORREF, red in the low byte; 0xFF000000 (no colour) when unreadable
+  std::string tag;      // the element's ThemeTag attribute; empty when it has none
+  std::uint32_t color;  // COLORREF, red in the low byte; 0xFF000000 (no colour) when unreadable
 };
 
 // Appends the colours of //General/ColorTable in document "PREFS" to `list`, in document

@@ -45,11 +45,11 @@ class MemorySettingsStore : public SettingsStore {
     std::uint32_t dword = 0;
   };
   struct Key {
-    std::string path;                                 // as first written
-    std::map<std::string, std::string> names;         // folded name -> name as written
-    std::map<std::string, Value> values;              // folded name -> value
+    std::string path;                          // as first written
+    std::map<std::string, std::string> names;  // folded name -> name as written
+    std::map<std::string, Value> values;       // folded name -> value
   };
-  using Keys = std::map<std::string, Key>;            // folded key path -> key
+  using Keys = std::map<std::string, Key>;  // folded key path -> key
 
   std::optional<std::string> ReadString(std::string_view keyPath, std::string_view name) override;
   std::optional<std::uint32_t> ReadDword(std::string_view keyPath, std::string_view name) override;

@@ -12,8 +12,7 @@ bool COrvThemedControl::SubclassWindow(orv::WindowOps& ops, orv::WindowHandle wi
   return true;
 }
 
-bool COrvThemedControl::OnMessage(unsigned message, std::uintptr_t, std::intptr_t lParam,
-                                  std::intptr_t& result) {
+bool COrvThemedControl::OnMessage(unsigned message, std::uintptr_t, std::intptr_t lParam, std::intptr_t& result) {
   if (message != WM_ORV_THEME) return false;
   result = 0;
   // A theme message without a record changes nothing.
@@ -78,8 +77,7 @@ void COrvHeader::TakeThemeColors(const ThemeColors& c) {
 
 bool COrvListViewCtrl::SubclassWindow(orv::WindowOps& ops, orv::WindowHandle window) {
   if (!COrvThemedControl::SubclassWindow(ops, window)) return false;
-  auto headerWindow =
-      reinterpret_cast<orv::WindowHandle>(ops.SendMessageA(window, orv::kLvmGetHeader, 0, 0));
+  auto headerWindow = reinterpret_cast<orv::WindowHandle>(ops.SendMessageA(window, orv::kLvmGetHeader, 0, 0));
   if (headerWindow) {
     auto header = std::make_unique<COrvHeader>();
     if (header->SubclassWindow(ops, headerWindow)) {
@@ -90,8 +88,7 @@ bool COrvListViewCtrl::SubclassWindow(orv::WindowOps& ops, orv::WindowHandle win
   return true;
 }
 
-bool COrvListViewCtrl::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
-                                 std::intptr_t& result) {
+bool COrvListViewCtrl::OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result) {
   if (!COrvThemedControl::OnMessage(message, wParam, lParam, result)) return false;
   // The header is no theme target of its own: it follows its list.
   std::intptr_t ignored = 0;
@@ -112,8 +109,7 @@ void COrvListViewCtrl::OnThemeTaken() {
   auto window = GetWindowHandle();
   if (!ops || !window) return;
   ops->SendMessageA(window, orv::kLvmSetBkColor, 0, static_cast<std::intptr_t>(backgroundColor));
-  ops->SendMessageA(window, orv::kLvmSetTextBkColor, 0,
-                    static_cast<std::intptr_t>(textBackgroundColor));
+  ops->SendMessageA(window, orv::kLvmSetTextBkColor, 0, static_cast<std::intptr_t>(textBackgroundColor));
   ops->SendMessageA(window, orv::kLvmSetTextColor, 0, static_cast<std::intptr_t>(textColor));
   COrvThemedControl::OnThemeTaken();
 }

@@ -18,7 +18,17 @@ inline constexpr std::uint32_t kNoColor = 0xFF000000u;
 
 // Which painting a control's window procedure does on Windows.
 enum class ThemedControlKind {
-  Button, RadioOrCheck, ComboBox, Edit, GroupBox, ListBox, ListView, Header, StaticText, Tab, UpDown
+  Button,
+  RadioOrCheck,
+  ComboBox,
+  Edit,
+  GroupBox,
+  ListBox,
+  ListView,
+  Header,
+  StaticText,
+  Tab,
+  UpDown
 };
 
 }  // namespace orv
@@ -39,8 +49,7 @@ class COrvThemedControl {
   void DetachWindow() noexcept { window_ = nullptr; }
 
   // The portable part of the window procedure: WM_ORV_THEME. Returns true when handled.
-  virtual bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
-                         std::intptr_t& result);
+  virtual bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result);
 
   int GetControlId() const { return controlId_; }
   void SetControlId(int id) { controlId_ = id; }
@@ -65,8 +74,8 @@ class COrvThemedControl {
 class COrvButton : public COrvThemedControl {
  public:
   orv::ThemedControlKind Kind() const override { return orv::ThemedControlKind::Button; }
-  std::uint32_t textColor = orv::kNoColor, faceColor = orv::kNoColor,
-                disabledColor = orv::kNoColor, selectedColor = orv::kNoColor;
+  std::uint32_t textColor = orv::kNoColor, faceColor = orv::kNoColor, disabledColor = orv::kNoColor,
+                selectedColor = orv::kNoColor;
 
  protected:
   void TakeThemeColors(const ThemeColors& colors) override;
@@ -85,9 +94,8 @@ class COrvRadioOrCheck : public COrvButton {
 class COrvComboBox : public COrvThemedControl {
  public:
   orv::ThemedControlKind Kind() const override { return orv::ThemedControlKind::ComboBox; }
-  std::uint32_t backgroundColor = orv::kNoColor, listColor = orv::kNoColor,
-                textColor = orv::kNoColor, disabledColor = orv::kNoColor,
-                listTextColor = orv::kNoColor;
+  std::uint32_t backgroundColor = orv::kNoColor, listColor = orv::kNoColor, textColor = orv::kNoColor,
+                disabledColor = orv::kNoColor, listTextColor = orv::kNoColor;
   bool comboThemed = false;
   // Answers the dropped list's WM_CTLCOLORLISTBOX on Windows; made with the theme.
   orv::Brush listBrush;
@@ -100,8 +108,7 @@ class COrvComboBox : public COrvThemedControl {
 class COrvEditCtrl : public COrvThemedControl {
  public:
   orv::ThemedControlKind Kind() const override { return orv::ThemedControlKind::Edit; }
-  std::uint32_t backgroundColor = orv::kNoColor, textColor = orv::kNoColor,
-                disabledColor = orv::kNoColor;
+  std::uint32_t backgroundColor = orv::kNoColor, textColor = orv::kNoColor, disabledColor = orv::kNoColor;
 
  protected:
   void TakeThemeColors(const ThemeColors& colors) override;
@@ -119,8 +126,7 @@ class COrvGroupBox : public COrvThemedControl {
 class COrvListBox : public COrvThemedControl {
  public:
   orv::ThemedControlKind Kind() const override { return orv::ThemedControlKind::ListBox; }
-  std::uint32_t backgroundColor = orv::kNoColor, textColor = orv::kNoColor,
-                selectedTextColor = orv::kNoColor;
+  std::uint32_t backgroundColor = orv::kNoColor, textColor = orv::kNoColor, selectedTextColor = orv::kNoColor;
 
  protected:
   void TakeThemeColors(const ThemeColors& colors) override;
@@ -141,12 +147,10 @@ class COrvListViewCtrl : public COrvThemedControl {
   // The list's header, when it has one; subclassed together with the list.
   bool SubclassWindow(orv::WindowOps& ops, orv::WindowHandle window) override;
   COrvHeader* GetHeader() const { return header_.get(); }
-  bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
-                 std::intptr_t& result) override;
+  bool OnMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result) override;
 
-  std::uint32_t headerFaceColor = orv::kNoColor, headerTextColor = orv::kNoColor,
-                backgroundColor = orv::kNoColor, textBackgroundColor = orv::kNoColor,
-                textColor = orv::kNoColor;
+  std::uint32_t headerFaceColor = orv::kNoColor, headerTextColor = orv::kNoColor, backgroundColor = orv::kNoColor,
+                textBackgroundColor = orv::kNoColor, textColor = orv::kNoColor;
 
  protected:
   void TakeThemeColors(const ThemeColors& colors) override;
@@ -160,8 +164,7 @@ class COrvListViewCtrl : public COrvThemedControl {
 class COrvStaticText : public COrvThemedControl {
  public:
   orv::ThemedControlKind Kind() const override { return orv::ThemedControlKind::StaticText; }
-  std::uint32_t textColor = orv::kNoColor, disabledColor = orv::kNoColor,
-                backgroundColor = orv::kNoColor;
+  std::uint32_t textColor = orv::kNoColor, disabledColor = orv::kNoColor, backgroundColor = orv::kNoColor;
 
  protected:
   void TakeThemeColors(const ThemeColors& colors) override;
@@ -170,8 +173,8 @@ class COrvStaticText : public COrvThemedControl {
 class COrvTabbyCtrl : public COrvThemedControl {
  public:
   orv::ThemedControlKind Kind() const override { return orv::ThemedControlKind::Tab; }
-  std::uint32_t backgroundColor = orv::kNoColor, textColor = orv::kNoColor,
-                selectedColor = orv::kNoColor, faceColor = orv::kNoColor;
+  std::uint32_t backgroundColor = orv::kNoColor, textColor = orv::kNoColor, selectedColor = orv::kNoColor,
+                faceColor = orv::kNoColor;
 
  protected:
   void TakeThemeColors(const ThemeColors& colors) override;
@@ -180,8 +183,8 @@ class COrvTabbyCtrl : public COrvThemedControl {
 class COrvUpDownCtrl : public COrvThemedControl {
  public:
   orv::ThemedControlKind Kind() const override { return orv::ThemedControlKind::UpDown; }
-  std::uint32_t backgroundColor = orv::kNoColor, arrowColor = orv::kNoColor,
-                frameColor = orv::kNoColor, disabledColor = orv::kNoColor;
+  std::uint32_t backgroundColor = orv::kNoColor, arrowColor = orv::kNoColor, frameColor = orv::kNoColor,
+                disabledColor = orv::kNoColor;
 
  protected:
   void TakeThemeColors(const ThemeColors& colors) override;

@@ -117,8 +117,10 @@ int FormatDateValue(double date, std::int32_t formatId, std::string& text) {
   switch (row->kind) {
     case RowKind::Mask: {
       const char* mask = row->mask;
-      if (row->beforeDayOneMask && day < 1.0) mask = row->beforeDayOneMask;
-      else if (row->dateOnlyMask && !hasTime) mask = row->dateOnlyMask;
+      if (row->beforeDayOneMask && day < 1.0)
+        mask = row->beforeDayOneMask;
+      else if (row->dateOnlyMask && !hasTime)
+        mask = row->dateOnlyMask;
       text = object.Format(mask);
       break;
     }

@@ -7,8 +7,8 @@ namespace orv {
 namespace {
 
 constexpr const char* kWeekdays[7] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
-constexpr const char* kMonths[12] = {"January", "February", "March", "April", "May", "June",
-                                     "July", "August", "September", "October", "November", "December"};
+constexpr const char* kMonths[12] = {"January", "February", "March",     "April",   "May",      "June",
+                                     "July",    "August",   "September", "October", "November", "December"};
 
 // Parts come from the calendar, but a caller may hand any numbers: names are looked up safely.
 std::string_view Weekday(const DateParts& parts) {
@@ -74,36 +74,79 @@ class MaskWriter {
     const int hour12 = p.hour % 12 == 0 ? 12 : p.hour % 12;
     const int dayIndex = p.dayOfYear - 1;
     switch (conversion) {
-      case 'a': text_ += Weekday(p).substr(0, 3); break;
-      case 'A': text_ += Weekday(p); break;
+      case 'a':
+        text_ += Weekday(p).substr(0, 3);
+        break;
+      case 'A':
+        text_ += Weekday(p);
+        break;
       case 'b':
-      case 'h': text_ += Month(p).substr(0, 3); break;
-      case 'B': text_ += Month(p); break;
-      case 'd': Number(p.day, 2, noZeros); break;
-      case 'm': Number(p.month, 2, noZeros); break;
-      case 'y': Number(p.year % 100, 2, noZeros); break;
-      case 'Y': Number(p.year, 0, noZeros); break;
-      case 'H': Number(p.hour, 2, noZeros); break;
-      case 'I': Number(hour12, 2, noZeros); break;
-      case 'M': Number(p.minute, 2, noZeros); break;
-      case 'S': Number(p.second, 2, noZeros); break;
-      case 'p': text_ += p.hour < 12 ? "AM" : "PM"; break;
-      case 'j': Number(p.dayOfYear, 3, noZeros); break;
-      case 'w': Number(p.dayOfWeek, 1, noZeros); break;
-      case 'U': Number((dayIndex + 7 - p.dayOfWeek) / 7, 2, noZeros); break;
-      case 'W': Number((dayIndex + 7 - (p.dayOfWeek + 6) % 7) / 7, 2, noZeros); break;
+      case 'h':
+        text_ += Month(p).substr(0, 3);
+        break;
+      case 'B':
+        text_ += Month(p);
+        break;
+      case 'd':
+        Number(p.day, 2, noZeros);
+        break;
+      case 'm':
+        Number(p.month, 2, noZeros);
+        break;
+      case 'y':
+        Number(p.year % 100, 2, noZeros);
+        break;
+      case 'Y':
+        Number(p.year, 0, noZeros);
+        break;
+      case 'H':
+        Number(p.hour, 2, noZeros);
+        break;
+      case 'I':
+        Number(hour12, 2, noZeros);
+        break;
+      case 'M':
+        Number(p.minute, 2, noZeros);
+        break;
+      case 'S':
+        Number(p.second, 2, noZeros);
+        break;
+      case 'p':
+        text_ += p.hour < 12 ? "AM" : "PM";
+        break;
+      case 'j':
+        Number(p.dayOfYear, 3, noZeros);
+        break;
+      case 'w':
+        Number(p.dayOfWeek, 1, noZeros);
+        break;
+      case 'U':
+        Number((dayIndex + 7 - p.dayOfWeek) / 7, 2, noZeros);
+        break;
+      case 'W':
+        Number((dayIndex + 7 - (p.dayOfWeek + 6) % 7) / 7, 2, noZeros);
+        break;
       case 'x':
-        if (noZeros) Long(false);
-        else Write("%m/%d/%y");
+        if (noZeros)
+          Long(false);
+        else
+          Write("%m/%d/%y");
         break;
-      case 'X': Write("%H:%M:%S"); break;
+      case 'X':
+        Write("%H:%M:%S");
+        break;
       case 'c':
-        if (noZeros) Long(true);
-        else Write("%m/%d/%y %H:%M:%S");
+        if (noZeros)
+          Long(true);
+        else
+          Write("%m/%d/%y %H:%M:%S");
         break;
-      case '%': text_ += '%'; break;
+      case '%':
+        text_ += '%';
+        break;
       case 'z':
-      case 'Z': break;
+      case 'Z':
+        break;
       default:
         text_ += noZeros ? "%#" : "%";
         text_ += conversion;

@@ -19,18 +19,18 @@ HANDLE UiActivationContext() noexcept;
 // without a context it does nothing. Scopes nest; destroy them in reverse order (they are
 // locals, so they are).
 class ScopedUiActivation {
-public:
-    ScopedUiActivation() noexcept;
-    ~ScopedUiActivation();
-    ScopedUiActivation(const ScopedUiActivation&) = delete;
-    ScopedUiActivation& operator=(const ScopedUiActivation&) = delete;
+ public:
+  ScopedUiActivation() noexcept;
+  ~ScopedUiActivation();
+  ScopedUiActivation(const ScopedUiActivation&) = delete;
+  ScopedUiActivation& operator=(const ScopedUiActivation&) = delete;
 
-    // True when the context was made and activated.
-    bool active() const noexcept { return active_; }
+  // True when the context was made and activated.
+  bool active() const noexcept { return active_; }
 
-private:
-    ULONG_PTR cookie_ = 0;
-    bool active_ = false;
+ private:
+  ULONG_PTR cookie_ = 0;
+  bool active_ = false;
 };
 
-} // namespace orv::host
+}  // namespace orv::host

@@ -125,8 +125,7 @@ HRESULT CChartPages::Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS*
     }
     // The type info calls the vtable of IChartPages; a failing method's error info reaches
     // the caller's EXCEPINFO as DISP_E_EXCEPTION.
-    return ChartPagesTypeInfo().Invoke(static_cast<IChartPages*>(this), id, flags, params, result, exception,
-                                       argError);
+    return ChartPagesTypeInfo().Invoke(static_cast<IChartPages*>(this), id, flags, params, result, exception, argError);
   } catch (const XmlComError& error) {
     return error.status() < 0 ? error.status() : E_UNEXPECTED;
   } catch (...) {
@@ -253,8 +252,8 @@ orv::Status CChartPages::FireStatusEvent(std::int32_t type, const std::string& v
     ComPtr<IDispatch> sink = events_.SinkAt(slot);
     if (!sink) continue;
     Variant returned;
-    status = sink->Invoke(kDispidStatusEvent, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params,
-                          returned.put(), nullptr, nullptr);
+    status = sink->Invoke(kDispidStatusEvent, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, returned.put(),
+                          nullptr, nullptr);
   }
   result = answer;
   return status;

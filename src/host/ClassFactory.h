@@ -15,4 +15,4 @@ namespace orv::host {
 // *object is cleared on every failure.
 HRESULT GetClassObject(std::span<const ClassEntry> table, REFCLSID clsid, REFIID iid, void** object) noexcept;
 
-} // namespace orv::host
+}  // namespace orv::host

@@ -41,8 +41,8 @@ const ClassEntry kClasses[] = {
     {&CLSID_SznWzrdPgSeason, L"SznWzrdPgSeason", L"SznWzrdPgSeason Class", false, kNone, kNone, nullptr},
 };
 
-} // namespace
+}  // namespace
 
 std::span<const ClassEntry> ModuleClasses() { return kClasses; }
 
-} // namespace orv::host
+}  // namespace orv::host

@@ -13,13 +13,13 @@ namespace orv::host {
 using CreatorFn = HRESULT (*)(IUnknown* outer, REFIID iid, void** object);
 
 struct ClassEntry {
-    const CLSID* clsid;
-    const wchar_t* name;         // the coclass name: "ChartPages"; ProgIDs are "OrvChartDlgs.<name>[.1]"
-    const wchar_t* description;  // "<name> Class"
-    bool programmable;           // marked Programmable (script hosts may create it)
-    std::span<const GUID> implementedCategories;
-    std::span<const GUID> requiredCategories;
-    CreatorFn create;            // null: the class is not built yet, neither served nor registered
+  const CLSID* clsid;
+  const wchar_t* name;         // the coclass name: "ChartPages"; ProgIDs are "OrvChartDlgs.<name>[.1]"
+  const wchar_t* description;  // "<name> Class"
+  bool programmable;           // marked Programmable (script hosts may create it)
+  std::span<const GUID> implementedCategories;
+  std::span<const GUID> requiredCategories;
+  CreatorFn create;  // null: the class is not built yet, neither served nor registered
 };
 
 // The module's fixed identities.
@@ -33,20 +33,20 @@ inline constexpr wchar_t kModuleName[] = L"OrvChartDlgs";
 
 // Component categories a class may name.
 // {7DD95801-9882-11CF-9FA9-00AA006C42C4}
-inline constexpr GUID kCatidSafeForScripting = {0x7DD95801, 0x9882, 0x11CF, {0x9F, 0xA9, 0x00, 0xAA, 0x00, 0x6C, 0x42, 0xC4}};
+inline constexpr GUID kCatidSafeForScripting = {
+    0x7DD95801, 0x9882, 0x11CF, {0x9F, 0xA9, 0x00, 0xAA, 0x00, 0x6C, 0x42, 0xC4}};
 // {7DD95802-9882-11CF-9FA9-00AA006C42C4}
-inline constexpr GUID kCatidSafeForInitializing = {0x7DD95802, 0x9882, 0x11CF, {0x9F, 0xA9, 0x00, 0xAA, 0x00, 0x6C, 0x42, 0xC4}};
+inline constexpr GUID kCatidSafeForInitializing = {
+    0x7DD95802, 0x9882, 0x11CF, {0x9F, 0xA9, 0x00, 0xAA, 0x00, 0x6C, 0x42, 0xC4}};
 
 // The DLL's table (ClassTable.cpp, built into the DLL only: it names the objects' creators).
 std::span<const ClassEntry> ModuleClasses();
 
 // The entry of clsid in table, or null.
-inline const ClassEntry* FindClass(std::span<const ClassEntry> table, REFCLSID clsid) noexcept
-{
-    for (const ClassEntry& entry : table)
-        if (IsEqualGUID(*entry.clsid, clsid))
-            return &entry;
-    return nullptr;
+inline const ClassEntry* FindClass(std::span<const ClassEntry> table, REFCLSID clsid) noexcept {
+  for (const ClassEntry& entry : table)
+    if (IsEqualGUID(*entry.clsid, clsid)) return &entry;
+  return nullptr;
 }
 
-} // namespace orv::host
+}  // namespace orv::host

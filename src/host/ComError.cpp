@@ -12,10 +12,9 @@ namespace {
 // The system's own words for a status, when it has any ("Not enough memory resources ...").
 std::string SystemText(HRESULT status) {
   char* buffer = nullptr;
-  DWORD length = FormatMessageA(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM |
-                                    FORMAT_MESSAGE_IGNORE_INSERTS,
-                                nullptr, static_cast<DWORD>(status), 0, reinterpret_cast<char*>(&buffer), 0,
-                                nullptr);
+  DWORD length =
+      FormatMessageA(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+                     nullptr, static_cast<DWORD>(status), 0, reinterpret_cast<char*>(&buffer), 0, nullptr);
   std::string text;
   if (length > 0 && buffer != nullptr) {
     text.assign(buffer, length);

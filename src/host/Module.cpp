@@ -9,7 +9,7 @@ HINSTANCE g_instance = nullptr;
 // Objects are apartment-threaded, but COM may ask DllCanUnloadNow from any apartment.
 std::atomic<long> g_locks{0};
 
-} // namespace
+}  // namespace
 
 HINSTANCE ModuleInstance() noexcept { return g_instance; }
 void SetModuleInstance(HINSTANCE instance) noexcept { g_instance = instance; }
@@ -22,4 +22,4 @@ long ModuleLockCount() noexcept { return g_locks.load(std::memory_order_acquire)
 
 HRESULT CanUnloadNow() noexcept { return ModuleLockCount() == 0 ? S_OK : S_FALSE; }
 
-} // namespace orv::host
+}  // namespace orv::host

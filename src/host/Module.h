@@ -20,11 +20,11 @@ HRESULT CanUnloadNow() noexcept;
 
 // Held as a member by each COM object: the module stays loaded as long as the object lives.
 class ModuleLock {
-public:
-    ModuleLock() noexcept { LockModule(); }
-    ~ModuleLock() { UnlockModule(); }
-    ModuleLock(const ModuleLock&) noexcept { LockModule(); }
-    ModuleLock& operator=(const ModuleLock&) noexcept = default;
+ public:
+  ModuleLock() noexcept { LockModule(); }
+  ~ModuleLock() { UnlockModule(); }
+  ModuleLock(const ModuleLock&) noexcept { LockModule(); }
+  ModuleLock& operator=(const ModuleLock&) noexcept = default;
 };
 
-} // namespace orv::host
+}  // namespace orv::host

@@ -25,9 +25,9 @@ RegistrationScope ConfiguredRegistrationScope();
 // One key below the classes root (CLSID\{...}\InprocServer32) and, when name is set, one REG_SZ
 // value of it ("" = the default value). A key without values is listed once with no name.
 struct RegistryEntry {
-    std::wstring key;
-    std::optional<std::wstring> name;
-    std::wstring data;
+  std::wstring key;
+  std::optional<std::wstring> name;
+  std::wstring data;
 };
 
 // Everything registration writes below the classes root, for the table's built classes.
@@ -43,4 +43,4 @@ HRESULT RegisterServer(std::span<const ClassEntry> table, HMODULE module, Regist
 // leading to it. Unregistering what is not registered succeeds.
 HRESULT UnregisterServer(std::span<const ClassEntry> table, HMODULE module, RegistrationScope scope) noexcept;
 
-} // namespace orv::host
+}  // namespace orv::host

@@ -6,5 +6,7 @@
 class CLsPgDayTrend final : public CLsPgTrendline<CLsPgDayBase<IDD_LS_PG_DAY_TREND>> {
  public:
   static constexpr const char* kName = "LsPgDayTrend";
-  CLsPgDayTrend() : CLsPgTrendline({"CTrendline", IDC_LS_DAY_TREND_SNAP, IDC_LS_DAY_EXTEND_LEFT, IDC_LS_DAY_EXTEND_RIGHT, 0, true, true}) {}
+  CLsPgDayTrend()
+      : CLsPgTrendline(
+            {"CTrendline", IDC_LS_DAY_TREND_SNAP, IDC_LS_DAY_EXTEND_LEFT, IDC_LS_DAY_EXTEND_RIGHT, 0, true, true}) {}
 };

@@ -179,7 +179,8 @@ bool CLsPgPosition::ExchangeSnap(bool save, int controlId) {
     return true;
   }
   // No choice in the box (a code the page doesn't offer): the host's code is kept.
-  if (row >= 0 && static_cast<std::size_t>(row) < snapEntries_.size()) point.lSnap = snapEntries_[static_cast<std::size_t>(row)].code;
+  if (row >= 0 && static_cast<std::size_t>(row) < snapEntries_.size())
+    point.lSnap = snapEntries_[static_cast<std::size_t>(row)].code;
   return true;
 }
 
@@ -193,8 +194,7 @@ void CLsPgPosition::ExchangeCheckField(int boxId, std::int32_t& field, bool save
   Ctl().CheckDlgButton(boxId, field);
 }
 
-void CLsPgPosition::ExchangeTextField(int boxId, std::string& field, std::size_t bufferSize, bool save,
-                                      int controlId) {
+void CLsPgPosition::ExchangeTextField(int boxId, std::string& field, std::size_t bufferSize, bool save, int controlId) {
   if (!boxId || !Covers(controlId, boxId) || !Ctl().HasDlgItem(boxId)) return;
   if (save) {
     field = Ctl().GetDlgItemTextA(boxId, bufferSize);

@@ -85,8 +85,8 @@ class CLsPgPosition : public orv::ThemedPage<CLsPgPosition>, public CLsPgBase {
   }
   static bool Covers(int controlId, int id) { return controlId == -1 || controlId == id; }
 
-  int valueId_ = 0;    // 0: the page has no value box
-  int snapId_ = 0;     // 0: the page has no snap box
+  int valueId_ = 0;           // 0: the page has no value box
+  int snapId_ = 0;            // 0: the page has no snap box
   bool bestFitRule_ = false;  // the snap box is off on vertex 1 when vertex 0 snaps by best fit
 };
 

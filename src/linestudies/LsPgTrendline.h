@@ -14,9 +14,9 @@
 struct LsTrendlineLayout {
   const char* wrapper;  // CTrendline, CLinRegChan, VolWgtAvgPrice
   int snapId;
-  int extendLeftId;     // LSTrl_Extendpt1
-  int extendRightId;    // LSTrl_Extendpt2
-  int multiplierId;     // Multiplier
+  int extendLeftId;         // LSTrl_Extendpt1
+  int extendRightId;        // LSTrl_Extendpt2
+  int multiplierId;         // Multiplier
   bool readsVertexButtons;  // the horizontal and vertical lines keep theirs hidden
   bool bestFitRule;         // the snap box is off on the end when the start snaps by best fit
 };

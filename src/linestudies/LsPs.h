@@ -96,7 +96,8 @@ class CLsPs : public COrvDialog<CLsPs<T>> {
       this->LoadTheme();
     };
     setup.onPageApply = [this](int dialogId) { return OnPageApply(dialogId); };
-    setup.onSheetMessage = [this](unsigned message, std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result) {
+    setup.onSheetMessage = [this](unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
+                                  std::intptr_t& result) {
       if (!window_) return false;
       return this->ProcessThemeMessage(window_, message, wParam, lParam, result) ||
              this->ReflectNotifications(window_, message, wParam, lParam, result);

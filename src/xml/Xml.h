@@ -72,10 +72,8 @@ std::string XmlGetXml(XmlNode node);
 // Names must be XML names: an empty or malformed name raises orv::kStatusFail.
 orv::Status XmlSetAttr(XmlNode node, const char* name, std::string_view value);
 // Always returns a null handle.
-XmlNode XmlSetAttrValue(XmlNode node, const char* name, std::int32_t value,
-                        XmlValueKind kind = XmlValueKind::Decimal);
-XmlNode XmlSetAttrValue(XmlNode node, const char* name, std::uint32_t value,
-                        XmlValueKind kind = XmlValueKind::Decimal);
+XmlNode XmlSetAttrValue(XmlNode node, const char* name, std::int32_t value, XmlValueKind kind = XmlValueKind::Decimal);
+XmlNode XmlSetAttrValue(XmlNode node, const char* name, std::uint32_t value, XmlValueKind kind = XmlValueKind::Decimal);
 // The writers below return null for a null parent; a new element is always appended.
 XmlNode XmlAddChild(XmlNode parent, const char* name);
 XmlNode XmlAddTextChild(XmlNode parent, const char* name, std::string_view text);

@@ -11,13 +11,13 @@ namespace orv {
 using Status = std::int32_t;
 
 inline constexpr Status kStatusOk = 0;
-inline constexpr Status kStatusFail = static_cast<Status>(0x80004005u);          // E_FAIL
-inline constexpr Status kStatusPointer = static_cast<Status>(0x80004003u);       // E_POINTER
-inline constexpr Status kStatusNoInterface = static_cast<Status>(0x80004002u);   // E_NOINTERFACE
-inline constexpr Status kStatusUnexpected = static_cast<Status>(0x8000FFFFu);    // E_UNEXPECTED
-inline constexpr Status kStatusInvalidArg = static_cast<Status>(0x80070057u);    // E_INVALIDARG
-inline constexpr Status kStatusOutOfMemory = static_cast<Status>(0x8007000Eu);   // E_OUTOFMEMORY
-inline constexpr Status kStatusNotInitialized = static_cast<Status>(0x800401F0u); // CO_E_NOTINITIALIZED
+inline constexpr Status kStatusFail = static_cast<Status>(0x80004005u);            // E_FAIL
+inline constexpr Status kStatusPointer = static_cast<Status>(0x80004003u);         // E_POINTER
+inline constexpr Status kStatusNoInterface = static_cast<Status>(0x80004002u);     // E_NOINTERFACE
+inline constexpr Status kStatusUnexpected = static_cast<Status>(0x8000FFFFu);      // E_UNEXPECTED
+inline constexpr Status kStatusInvalidArg = static_cast<Status>(0x80070057u);      // E_INVALIDARG
+inline constexpr Status kStatusOutOfMemory = static_cast<Status>(0x8007000Eu);     // E_OUTOFMEMORY
+inline constexpr Status kStatusNotInitialized = static_cast<Status>(0x800401F0u);  // CO_E_NOTINITIALIZED
 
 }  // namespace orv
 

@@ -73,10 +73,14 @@ std::uint32_t CharacterReferenceValue(std::string_view digits, bool hex) {
   std::uint32_t value = 0;
   for (char d : digits) {
     std::uint32_t v = 0;
-    if (IsDigit(d)) v = static_cast<std::uint32_t>(d - '0');
-    else if (hex && d >= 'a' && d <= 'f') v = static_cast<std::uint32_t>(d - 'a' + 10);
-    else if (hex && d >= 'A' && d <= 'F') v = static_cast<std::uint32_t>(d - 'A' + 10);
-    else return 0;
+    if (IsDigit(d))
+      v = static_cast<std::uint32_t>(d - '0');
+    else if (hex && d >= 'a' && d <= 'f')
+      v = static_cast<std::uint32_t>(d - 'a' + 10);
+    else if (hex && d >= 'A' && d <= 'F')
+      v = static_cast<std::uint32_t>(d - 'A' + 10);
+    else
+      return 0;
     value = std::min<std::uint32_t>(value * (hex ? 16 : 10) + v, 0x110000);
   }
   return value;
@@ -169,9 +173,12 @@ class Scanner {
     if (semicolon == std::string_view::npos) return XmlTextVerdict::BadReference;
     const std::string_view body = text_.substr(at_ + 1, semicolon - at_ - 1);
     bool ok = false;
-    if (body.starts_with("#x")) ok = IsXmlChar(CharacterReferenceValue(body.substr(2), true));
-    else if (body.starts_with("#")) ok = IsXmlChar(CharacterReferenceValue(body.substr(1), false));
-    else ok = body == "lt" || body == "gt" || body == "amp" || body == "apos" || body == "quot";
+    if (body.starts_with("#x"))
+      ok = IsXmlChar(CharacterReferenceValue(body.substr(2), true));
+    else if (body.starts_with("#"))
+      ok = IsXmlChar(CharacterReferenceValue(body.substr(1), false));
+    else
+      ok = body == "lt" || body == "gt" || body == "amp" || body == "apos" || body == "quot";
     if (!ok) return XmlTextVerdict::BadReference;
     at_ = semicolon + 1;
     return XmlTextVerdict::Acceptable;
@@ -251,18 +258,16 @@ class Scanner {
   // reaches either parser already decoded, so the name changes nothing else; "latin1", "cp1252",
   // "UCS-2", "UTF-32", "Shift_JIS" and the like are refused there.
   static constexpr std::string_view kEncodings[] = {
-      "UTF-8",        "UTF8",         "UTF-16",       "UTF16",        "UTF-16LE",     "UTF-16BE",
-      "US-ASCII",     "ASCII",        "ISO-8859-1",   "ISO-8859-2",   "ISO-8859-3",   "ISO-8859-4",
-      "ISO-8859-5",   "ISO-8859-6",   "ISO-8859-7",   "ISO-8859-8",   "ISO-8859-9",   "ISO-8859-10",
-      "ISO-8859-11",  "ISO-8859-13",  "ISO-8859-14",  "ISO-8859-15",  "ISO-8859-16",  "windows-1250",
-      "windows-1251", "windows-1252", "windows-1253", "windows-1254", "windows-1255", "windows-1256",
-      "windows-1257", "windows-1258"};
+      "UTF-8",        "UTF8",         "UTF-16",       "UTF16",        "UTF-16LE",     "UTF-16BE",     "US-ASCII",
+      "ASCII",        "ISO-8859-1",   "ISO-8859-2",   "ISO-8859-3",   "ISO-8859-4",   "ISO-8859-5",   "ISO-8859-6",
+      "ISO-8859-7",   "ISO-8859-8",   "ISO-8859-9",   "ISO-8859-10",  "ISO-8859-11",  "ISO-8859-13",  "ISO-8859-14",
+      "ISO-8859-15",  "ISO-8859-16",  "windows-1250", "windows-1251", "windows-1252", "windows-1253", "windows-1254",
+      "windows-1255", "windows-1256", "windows-1257", "windows-1258"};
 
   static bool PseudoAttributeValueIsGood(std::size_t which, std::string_view value) {
     switch (which) {
       case 0:  // version: "1." and digits, all read as 1.0
-        return value.size() > 2 && value.starts_with("1.") &&
-               std::all_of(value.begin() + 2, value.end(), IsDigit);
+        return value.size() > 2 && value.starts_with("1.") && std::all_of(value.begin() + 2, value.end(), IsDigit);
       case 1:  // encoding: one that both parsers take
         return std::any_of(std::begin(kEncodings), std::end(kEncodings),
                            [&](std::string_view known) { return EqualsIgnoringCase(value, known); });
@@ -275,7 +280,8 @@ class Scanner {
     // "--" may only end the comment, and only as "-->".
     const std::size_t dashes = text_.find("--", at_ + 4);
     if (dashes == std::string_view::npos) return XmlTextVerdict::Unterminated;
-    if (!At(dashes + 2, '>')) return dashes + 2 >= text_.size() ? XmlTextVerdict::Unterminated : XmlTextVerdict::Malformed;
+    if (!At(dashes + 2, '>'))
+      return dashes + 2 >= text_.size() ? XmlTextVerdict::Unterminated : XmlTextVerdict::Malformed;
     at_ = dashes + 3;
     return XmlTextVerdict::Acceptable;
   }
@@ -313,8 +319,7 @@ class Scanner {
       attributes.emplace_back(attribute, value);
     }
     const std::size_t level = open_.size() + 1;
-    if (!DeclareNamespaces(attributes, level) || !HasKnownPrefix(name, false) ||
-        !AttributesAreDistinct(attributes))
+    if (!DeclareNamespaces(attributes, level) || !HasKnownPrefix(name, false) || !AttributesAreDistinct(attributes))
       return V::Malformed;
     if (text_[at_] == '/') {
       at_ += 2;
@@ -350,8 +355,8 @@ class Scanner {
       if (!name.starts_with("xmlns:")) continue;
       const std::string_view prefix = name.substr(6);
       const std::string uri = Expand(value);
-      if (prefix.empty() || prefix.find(':') != std::string_view::npos || uri.empty() ||
-          prefix == "xmlns" || (prefix == "xml") != (uri == kXmlNamespace))
+      if (prefix.empty() || prefix.find(':') != std::string_view::npos || uri.empty() || prefix == "xmlns" ||
+          (prefix == "xml") != (uri == kXmlNamespace))
         return false;
       bindings_.push_back({std::string(prefix), uri, level});
     }
@@ -408,11 +413,16 @@ class Scanner {
       const std::size_t semicolon = value.find(';', i);
       const std::string_view body = value.substr(i + 1, semicolon - i - 1);
       i = semicolon;
-      if (body == "lt") out += '<';
-      else if (body == "gt") out += '>';
-      else if (body == "amp") out += '&';
-      else if (body == "apos") out += '\'';
-      else if (body == "quot") out += '"';
+      if (body == "lt")
+        out += '<';
+      else if (body == "gt")
+        out += '>';
+      else if (body == "amp")
+        out += '&';
+      else if (body == "apos")
+        out += '\'';
+      else if (body == "quot")
+        out += '"';
       else {
         const bool hex = body.starts_with("#x");
         std::uint32_t c = CharacterReferenceValue(body.substr(hex ? 2 : 1), hex);

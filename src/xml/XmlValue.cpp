@@ -94,14 +94,13 @@ bool ParseBits(std::string_view text, std::uint32_t& bits) {
   return end == copy.c_str() + copy.size() && end != copy.c_str() && fits;
 }
 
-
 std::string FormatBits(std::uint32_t bits, XmlValueKind kind, bool isSigned) {
   switch (kind) {
     case XmlValueKind::Hex:
       return orv::StrFormat("0x%08X", static_cast<unsigned>(bits));
     case XmlValueKind::Color:
       return orv::StrFormat("RGB(%d,%d,%d)", static_cast<int>(bits & 0xFF), static_cast<int>((bits >> 8) & 0xFF),
-                    static_cast<int>((bits >> 16) & 0xFF));
+                            static_cast<int>((bits >> 16) & 0xFF));
     case XmlValueKind::Bool:
       return bits != 0 ? "TRUE" : "FALSE";
     default:

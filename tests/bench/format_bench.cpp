@@ -35,7 +35,8 @@ void TimeValue(benchmark::State& state) {
 
 // Plain date masks, the no-leading-zero and long forms, the locale's picture, day and date,
 // milliseconds, date and time, and an unknown id.
-BENCHMARK(DateValue)->ArgName("id")->Arg(16)->Arg(144)->Arg(244)->Arg(224)->Arg(241)->Arg(258)->Arg(274)->Arg(514)->Arg(999);
+BENCHMARK(DateValue)->ArgName("id")->Arg(16)->Arg(144)->Arg(244)->Arg(224)->Arg(241)->Arg(258)->Arg(274)->Arg(514)->Arg(
+    999);
 // Clock forms by plain arithmetic, the forms through a date of 1970 onwards, the locale's time.
 BENCHMARK(TimeValue)->ArgName("id")->Arg(256)->Arg(258)->Arg(512)->Arg(272)->Arg(277)->Arg(769)->Arg(999);
 

@@ -14,11 +14,11 @@ TEST(CxRegKeyTest, ReadsValuesOrTheDefault) {
   EXPECT_EQ(key.QueryDWORDValue("Count", 7), 7u);  // closed
   ASSERT_TRUE(key.Open("Software\\ZEL\\Orvane"));
   EXPECT_EQ(key.QueryDWORDValue("Count", 7), 42u);
-  EXPECT_EQ(key.QueryDWORDValue("count", 7), 42u);       // names ignore case, as the registry's
-  EXPECT_EQ(key.QueryDWORDValue("Name", 7), 7u);         // a string is no DWORD
+  EXPECT_EQ(key.QueryDWORDValue("count", 7), 42u);  // names ignore case, as the registry's
+  EXPECT_EQ(key.QueryDWORDValue("Name", 7), 7u);    // a string is no DWORD
   EXPECT_EQ(key.QueryDWORDValue("Missing", 7), 7u);
   EXPECT_EQ(key.QueryStringValue("Name", "x"), "Corn");
-  EXPECT_EQ(key.QueryStringValue("Count", "x"), "x");    // a DWORD is no string
+  EXPECT_EQ(key.QueryStringValue("Count", "x"), "x");  // a DWORD is no string
   key.Close();
   EXPECT_EQ(key.QueryStringValue("Name", "x"), "x");
 }
@@ -43,7 +43,8 @@ TEST(CxRegKeyTest, UseOldPaletteOnlyForANonZeroDword) {
       {"no key", [](orv::MemorySettingsStore&) {}, false},
       {"zero", [](orv::MemorySettingsStore& s) { s.WriteDword(orv::kOrvaneKey, "UseOldPalette", 0); }, false},
       {"one", [](orv::MemorySettingsStore& s) { s.WriteDword(orv::kOrvaneKey, "UseOldPalette", 1); }, true},
-      {"any non-zero", [](orv::MemorySettingsStore& s) { s.WriteDword(orv::kOrvaneKey, "UseOldPalette", 0xFFFFFFFF); }, true},
+      {"any non-zero", [](orv::MemorySettingsStore& s) { s.WriteDword(orv::kOrvaneKey, "UseOldPalette", 0xFFFFFFFF); },
+       true},
       {"a string", [](orv::MemorySettingsStore& s) { s.WriteString(orv::kOrvaneKey, "UseOldPalette", "1"); }, false},
       {"another key", [](orv::MemorySettingsStore& s) { s.WriteDword("Software\\ZEL", "UseOldPalette", 1); }, false},
   };

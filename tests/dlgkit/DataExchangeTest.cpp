@@ -45,14 +45,31 @@ struct Dialog : CWinDataExchangeZel<Dialog> {
 };
 
 TEST(FloatParse, ReadsWholeFieldsOnly) {
-  struct Case { const char* text; std::optional<double> expected; };
+  struct Case {
+    const char* text;
+    std::optional<double> expected;
+  };
   const Case cases[] = {
-      {"0", 0.0}, {"0.0", 0.0}, {"  0.5", 0.5}, {"1.5 ", 1.5}, {"\t-2.25\t ", -2.25}, {"1e3", 1000.0},
-      {"100000", 100000.0}, {"-7", -7.0},
-      {".0", std::nullopt}, {"-0", std::nullopt}, {"-0.0", std::nullopt},  // a zero not starting with 0
-      {"1.5x", std::nullopt}, {"abc", std::nullopt}, {"", std::nullopt}, {"   ", std::nullopt},
-      {"1.5 2", std::nullopt}, {"1,5", std::nullopt},
-      {"inf", std::nullopt}, {"nan", std::nullopt}, {"1e999", std::nullopt},  // nothing a field can hold
+      {"0", 0.0},
+      {"0.0", 0.0},
+      {"  0.5", 0.5},
+      {"1.5 ", 1.5},
+      {"\t-2.25\t ", -2.25},
+      {"1e3", 1000.0},
+      {"100000", 100000.0},
+      {"-7", -7.0},
+      {".0", std::nullopt},
+      {"-0", std::nullopt},
+      {"-0.0", std::nullopt},  // a zero not starting with 0
+      {"1.5x", std::nullopt},
+      {"abc", std::nullopt},
+      {"", std::nullopt},
+      {"   ", std::nullopt},
+      {"1.5 2", std::nullopt},
+      {"1,5", std::nullopt},
+      {"inf", std::nullopt},
+      {"nan", std::nullopt},
+      {"1e999", std::nullopt},  // nothing a field can hold
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.text);
@@ -259,7 +276,7 @@ TEST(DdxComboData, SelectsByItemDataAndReadsTheSelection) {
   int value = 20;
   EXPECT_TRUE(d.DDX_ComboData(kCombo, &value, false));
   EXPECT_EQ(d.controls.ComboGetCurSel(kCombo), 1);  // the first item holding 20
-  value = 99;  // no item holds it: item 0
+  value = 99;                                       // no item holds it: item 0
   EXPECT_TRUE(d.DDX_ComboData(kCombo, &value, false));
   EXPECT_EQ(d.controls.ComboGetCurSel(kCombo), 0);
   d.controls.SelectComboItem(kCombo, 2);

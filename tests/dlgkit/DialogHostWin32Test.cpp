@@ -44,11 +44,23 @@ class ScriptedPage : public orv::Page {
     ::PostMessageA(window, kRunScenario, 0, 0);
     return true;
   }
-  bool OnSetActive() override { log.push_back("set"); return acceptActive; }
-  bool OnKillActive() override { log.push_back("kill"); return allowLeave; }
-  orv::ApplyResult OnApply() override { log.push_back("apply"); return orv::ApplyResult::NoError; }
+  bool OnSetActive() override {
+    log.push_back("set");
+    return acceptActive;
+  }
+  bool OnKillActive() override {
+    log.push_back("kill");
+    return allowLeave;
+  }
+  orv::ApplyResult OnApply() override {
+    log.push_back("apply");
+    return orv::ApplyResult::NoError;
+  }
   void OnReset() override { log.push_back("reset"); }
-  bool OnQueryCancel() override { log.push_back("querycancel"); return true; }
+  bool OnQueryCancel() override {
+    log.push_back("querycancel");
+    return true;
+  }
   int OnWizardNext() override { return 1337; }
   int OnWizardBack() override { return orv::kWizardStay; }
   bool OnWizardFinish() override { return allowFinish; }
@@ -164,8 +176,8 @@ TEST(DialogHost, WhatThePageLeavesGoesToTheUnhandledHookAfterItsOwnHandlers) {
     ::EndDialog(window, 3);
   };
   EXPECT_EQ(orv::RunPageDialogIndirect(page, orv::test::AsTemplate(dialogTemplate), nullptr), 3);
-  EXPECT_EQ(page.log, (std::vector<std::string>{"init", "set", "notify 1", "unhandled 78", "unhandled 43",
-                                                "command 42", "unhandled 273"}));
+  EXPECT_EQ(page.log, (std::vector<std::string>{"init", "set", "notify 1", "unhandled 78", "unhandled 43", "command 42",
+                                                "unhandled 273"}));
 }
 
 TEST(DialogHost, ExceptionInInitEndsTheRunAndIsRethrown) {

@@ -35,9 +35,20 @@ TEST(MulDivTest, RoundsAsThePlatformDoes) {
   struct Case {
     std::int32_t a, b, c, expected;
   } cases[] = {
-      {12, 72, 96, 9},   {13, 72, 96, 10},  {-12, 72, 96, -9},  {-13, 72, 96, -10}, {9, 96, -72, -12},
-      {-9, 96, -72, 12}, {3, 1, 2, 2},      {-3, 1, 2, -2},     {5, 1, -2, -3},     {0, 5, 7, 0},
-      {1, 1, 0, -1},     {INT_MAX, 2, 1, -1}, {INT_MIN, 1, -1, -1}, {INT_MAX, INT_MAX, INT_MAX, INT_MAX},
+      {12, 72, 96, 9},
+      {13, 72, 96, 10},
+      {-12, 72, 96, -9},
+      {-13, 72, 96, -10},
+      {9, 96, -72, -12},
+      {-9, 96, -72, 12},
+      {3, 1, 2, 2},
+      {-3, 1, 2, -2},
+      {5, 1, -2, -3},
+      {0, 5, 7, 0},
+      {1, 1, 0, -1},
+      {INT_MAX, 2, 1, -1},
+      {INT_MIN, 1, -1, -1},
+      {INT_MAX, INT_MAX, INT_MAX, INT_MAX},
       {INT_MIN, 1, 1, INT_MIN},
   };
   for (const Case& c : cases) EXPECT_EQ(orv::MulDiv(c.a, c.b, c.c), c.expected) << c.a << "*" << c.b << "/" << c.c;
@@ -52,21 +63,21 @@ TEST_F(FontInfoTest, ReadTakesTheAttributesWithTheirDefaults) {
   } cases[] = {
       {R"(<CFontInfo Version="3" Tag="Axis" FaceName="Tahoma" PtSize="9" Height="90000" Width="2" Weight="700" Italic="1" Underline="1" PitchAndFamily="1"/>)",
        "Tahoma", 9, 2, 700, 1, 1, 1},
-      {R"(<CFontInfo Height="90000"/>)", "Arial", 9, 0, 0, 0, 0, 0},          // size from Height
+      {R"(<CFontInfo Height="90000"/>)", "Arial", 9, 0, 0, 0, 0, 0},  // size from Height
       {R"(<CFontInfo Height="-120000"/>)", "Arial", -12, 0, 0, 0, 0, 0},
-      {R"(<CFontInfo Height="5000"/>)", "Arial", 16, 0, 0, 0, 0, 0},          // 0 points: 16
-      {R"(<CFontInfo/>)", "Arial", 16, 0, 0, 0, 0, 0},                         // neither face nor size
+      {R"(<CFontInfo Height="5000"/>)", "Arial", 16, 0, 0, 0, 0, 0},  // 0 points: 16
+      {R"(<CFontInfo/>)", "Arial", 16, 0, 0, 0, 0, 0},                // neither face nor size
       {R"(<CFontInfo FaceName="" PtSize="0"/>)", "Arial", 16, 0, 0, 0, 0, 0},
-      {R"(<CFontInfo PtSize="0" Height="90000"/>)", "Arial", 16, 0, 0, 0, 0, 0},   // PtSize wins
-      {R"(<CFontInfo PtSize="big" Height="90000"/>)", "Arial", 16, 0, 0, 0, 0, 0}, // present, unreadable
+      {R"(<CFontInfo PtSize="0" Height="90000"/>)", "Arial", 16, 0, 0, 0, 0, 0},    // PtSize wins
+      {R"(<CFontInfo PtSize="big" Height="90000"/>)", "Arial", 16, 0, 0, 0, 0, 0},  // present, unreadable
       {R"(<CFontInfo PtSize="-10"/>)", "Arial", -10, 0, 0, 0, 0, 0},
-      {R"(<CFontInfo PitchAndFamily="34"/>)", "Arial", 16, 0, 0, 0, 0, 0},   // one bit only
+      {R"(<CFontInfo PitchAndFamily="34"/>)", "Arial", 16, 0, 0, 0, 0, 0},  // one bit only
       {R"(<CFontInfo PitchAndFamily="35"/>)", "Arial", 16, 0, 0, 0, 0, 1},
       {R"(<CFontInfo PitchAndFamily="-1"/>)", "Arial", 16, 0, 0, 0, 0, 1},
       {R"(<CFontInfo Weight="0x2BC" Italic="TRUE"/>)", "Arial", 16, 0, 700, 1, 0, 0},
       {R"(<CFontInfo Weight="99999" Width="-5"/>)", "Arial", 16, -5, 99999, 0, 0, 0},  // kept as read
-      {R"(<Page><Other/><Text><CFontInfo FaceName="Courier New" PtSize="11"/></Text></Page>)", "Courier New", 11,
-       0, 0, 0, 0, 0},
+      {R"(<Page><Other/><Text><CFontInfo FaceName="Courier New" PtSize="11"/></Text></Page>)", "Courier New", 11, 0, 0,
+       0, 0, 0},
   };
   for (const Case& c : cases) {
     CFontInfo info;
@@ -123,8 +134,9 @@ TEST_F(FontInfoTest, WriteGivesTheAttributesInOrder) {
   XmlNode root = XmlFindNode(document, "Root", true);
   XmlNode element = info.Write(root);
   ASSERT_TRUE(element);
-  EXPECT_EQ(XmlGetXml(element),
-            R"(<CFontInfo Version="3" FaceName="Tahoma" PtSize="9" Height="90000" Width="3" Weight="700" Italic="1" Underline="0" PitchAndFamily="1"/>)");
+  EXPECT_EQ(
+      XmlGetXml(element),
+      R"(<CFontInfo Version="3" FaceName="Tahoma" PtSize="9" Height="90000" Width="3" Weight="700" Italic="1" Underline="0" PitchAndFamily="1"/>)");
   EXPECT_FALSE(info.Write(nullptr));
 }
 
@@ -132,7 +144,7 @@ TEST_F(FontInfoTest, WriteHoldsHeightInThirtyTwoBits) {
   struct Case {
     std::int32_t ptSize;
     const char* height;
-  } cases[] = {{214748, "2147480000"}, {214749, "2147483647"}, {INT_MAX, "2147483647"},
+  } cases[] = {{214748, "2147480000"},   {214749, "2147483647"},   {INT_MAX, "2147483647"},
                {-214749, "-2147483648"}, {INT_MIN, "-2147483648"}, {-9, "-90000"}};
   for (const Case& c : cases) {
     CFontInfo info;
@@ -215,12 +227,9 @@ TEST_F(FontInfoTest, FromLogFontTakesPointsAlwaysNegative) {
     std::int32_t height, leading, dpi, ptSize;
     int metricsCalls;
   } cases[] = {
-      {-12, 0, 96, -9, 0},   // a character height: straight to points
-      {-16, 0, 96, -12, 0},
-      {16, 3, 96, -10, 1},   // a cell height: less the internal leading, 13 px = 9.75 pt
-      {12, 0, 96, -9, 1},
-      {-18, 0, 144, -9, 0},
-      {0, 0, 96, 0, 0},
+      {-12, 0, 96, -9, 0},                        // a character height: straight to points
+      {-16, 0, 96, -12, 0}, {16, 3, 96, -10, 1},  // a cell height: less the internal leading, 13 px = 9.75 pt
+      {12, 0, 96, -9, 1},   {-18, 0, 144, -9, 0}, {0, 0, 96, 0, 0},
   };
   for (const Case& c : cases) {
     ops.SetDpi(c.dpi);

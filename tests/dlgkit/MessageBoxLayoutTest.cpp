@@ -24,9 +24,8 @@ TEST(MessageBoxStyle, ButtonsAndCancelByTheLowBits) {
     int cancel;
   };
   const Row rows[] = {
-      {0, {1}, 1},          {1, {1, 2}, 2},       {2, {3, 4, 5}, -1}, {3, {6, 7, 2}, 2},
-      {4, {6, 7}, -1},      {5, {4, 2}, 2},       {6, {2, 10, 11}, -1},
-      {7, {1}, 1},          {15, {1}, 1},         {0x34, {6, 7}, -1},  // icon bits don't matter
+      {0, {1}, 1},          {1, {1, 2}, 2}, {2, {3, 4, 5}, -1}, {3, {6, 7, 2}, 2},  {4, {6, 7}, -1}, {5, {4, 2}, 2},
+      {6, {2, 10, 11}, -1}, {7, {1}, 1},    {15, {1}, 1},       {0x34, {6, 7}, -1},  // icon bits don't matter
   };
   for (const Row& row : rows) {
     const auto style = MessageBoxStyleFromFlags(row.flags);

@@ -99,7 +99,7 @@ TEST_F(MessageBoxWin32, YesNoCannotBeCancelledAndAnswersByMnemonic) {
   BoxDriver driver([&](HWND box) {
     closeGray = (GetMenuState(GetSystemMenu(box, FALSE), SC_CLOSE, MF_BYCOMMAND) & MF_GRAYED) != 0;
     Picture(box, L"msgbox-yesno.png");
-    Press(box, IDCANCEL);                          // ignored
+    Press(box, IDCANCEL);                                   // ignored
     PostMessageW(GetDlgItem(box, IDYES), WM_CHAR, 'n', 0);  // the mnemonic of "&No"
   });
   EXPECT_EQ(OrvMessageBox(nullptr, "Delete the line?", "Custom Lines", MB_YESNO | MB_ICONQUESTION), IDNO);
@@ -177,8 +177,8 @@ TEST_F(MessageBoxWin32, ALongLineWidensTheBoxUpToTheTextWidth) {
 }
 
 TEST_F(MessageBoxWin32, ModalToAVisibleOwnerAndCtrlCCopiesTheBox) {
-  HWND owner = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 10, 10, 300, 200,
-                               nullptr, nullptr, nullptr, nullptr);
+  HWND owner = CreateWindowExW(0, L"STATIC", L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 10, 10, 300, 200, nullptr,
+                               nullptr, nullptr, nullptr);
   ASSERT_NE(owner, nullptr);
   bool ownerEnabledDuring = true;
   HWND boxOwner = nullptr;
@@ -233,8 +233,8 @@ TEST_F(MessageBoxWin32, AnInvisibleOwnerCountsAsNone) {
 struct EnterCase {
   const char* name;
   unsigned flags;
-  int answer;  // the default button's id
-  bool owned;  // shown over a visible owner window
+  int answer;                        // the default button's id
+  bool owned;                        // shown over a visible owner window
   const wchar_t* picture = nullptr;  // a picture of the box before Enter, to look at
 };
 
@@ -278,8 +278,7 @@ TEST_P(MessageBoxEnter, AnswersWithTheDefaultButton) {
 
 INSTANTIATE_TEST_SUITE_P(
     DefaultButtons, MessageBoxEnter,
-    ::testing::Values(EnterCase{"OkAlone", MB_OK, IDOK, false},
-                      EnterCase{"OkCancelFirst", MB_OKCANCEL, IDOK, false},
+    ::testing::Values(EnterCase{"OkAlone", MB_OK, IDOK, false}, EnterCase{"OkCancelFirst", MB_OKCANCEL, IDOK, false},
                       EnterCase{"OkCancelSecond", MB_OKCANCEL | MB_DEFBUTTON2, IDCANCEL, false},
                       EnterCase{"YesNoFirst", MB_YESNO, IDYES, false},
                       EnterCase{"YesNoSecond", MB_YESNO | MB_DEFBUTTON2, IDNO, false, L"msgbox-default-no.png"},

@@ -78,27 +78,27 @@ TEST_F(OrvDialogTest, ChildScanFollowsTheClassTable) {
     bool target;
   };
   const Row rows[] = {
-      {"Button", 0x0, true, ThemedControlKind::Button, true},          // push
-      {"button", 0x1, true, ThemedControlKind::Button, true},          // default push, any case
+      {"Button", 0x0, true, ThemedControlKind::Button, true},  // push
+      {"button", 0x1, true, ThemedControlKind::Button, true},  // default push, any case
       {"Button", 0x7, true, ThemedControlKind::GroupBox, true},
-      {"Button", 0x2, true, ThemedControlKind::RadioOrCheck, true},    // check
-      {"Button", 0x3, true, ThemedControlKind::RadioOrCheck, true},    // auto check
-      {"Button", 0x4, true, ThemedControlKind::RadioOrCheck, true},    // radio
-      {"Button", 0x5, true, ThemedControlKind::RadioOrCheck, true},    // 3-state (bit 4)
-      {"Button", 0x9, true, ThemedControlKind::RadioOrCheck, true},    // auto radio
-      {"Button", 0xB, false, ThemedControlKind::Button, true},         // owner-drawn: theme only
+      {"Button", 0x2, true, ThemedControlKind::RadioOrCheck, true},  // check
+      {"Button", 0x3, true, ThemedControlKind::RadioOrCheck, true},  // auto check
+      {"Button", 0x4, true, ThemedControlKind::RadioOrCheck, true},  // radio
+      {"Button", 0x5, true, ThemedControlKind::RadioOrCheck, true},  // 3-state (bit 4)
+      {"Button", 0x9, true, ThemedControlKind::RadioOrCheck, true},  // auto radio
+      {"Button", 0xB, false, ThemedControlKind::Button, true},       // owner-drawn: theme only
       {"Button", 0x8, false, ThemedControlKind::Button, true},
       {"BUTTON", 0xA, false, ThemedControlKind::Button, true},
       {"ComboBox", 0x3, true, ThemedControlKind::ComboBox, true},
       {"msctls_updown32", 0, true, ThemedControlKind::UpDown, true},
       {"ColorWnd", 0, false, ThemedControlKind::Button, true},
       {"Edit", 0x80, true, ThemedControlKind::Edit, true},
-      {"Static", 0x0, true, ThemedControlKind::StaticText, true},       // left-aligned
-      {"Static", 0x2, false, ThemedControlKind::Button, false},         // right-aligned: plain
-      {"static", 0x1, false, ThemedControlKind::Button, false},         // centred: plain
-      {"Static", 0x20, true, ThemedControlKind::StaticText, true},      // other bits above 31 don't matter
-      {"Static", 0xE, false, ThemedControlKind::Button, false},         // bitmap
-      {"RichEdit20A", 0, false, ThemedControlKind::Button, false},      // unknown class: nothing
+      {"Static", 0x0, true, ThemedControlKind::StaticText, true},   // left-aligned
+      {"Static", 0x2, false, ThemedControlKind::Button, false},     // right-aligned: plain
+      {"static", 0x1, false, ThemedControlKind::Button, false},     // centred: plain
+      {"Static", 0x20, true, ThemedControlKind::StaticText, true},  // other bits above 31 don't matter
+      {"Static", 0xE, false, ThemedControlKind::Button, false},     // bitmap
+      {"RichEdit20A", 0, false, ThemedControlKind::Button, false},  // unknown class: nothing
   };
   std::vector<WindowHandle> windows;
   int id = 100;
@@ -132,10 +132,12 @@ TEST_F(OrvDialogTest, OwnerDrawnComboIsQueriedBeforeItIsSubclassed) {
   WindowHandle ownerDrawn = tree.AddChild(dlg, "ComboBox", 0x13, 1);
   WindowHandle plain = tree.AddChild(dlg, "ComboBox", 0x3, 2);
   bool subclassedWhenQueried = true;
-  tree.SetMessageHandler(ownerDrawn, [&](unsigned message, std::uintptr_t, std::intptr_t) -> std::optional<std::intptr_t> {
-    if (message == WM_ORV_THEME_QUERY) subclassedWhenQueried = tree.SubclassedBy(ownerDrawn) != nullptr;
-    return std::nullopt;
-  });
+  tree.SetMessageHandler(ownerDrawn,
+                         [&](unsigned message, std::uintptr_t, std::intptr_t) -> std::optional<std::intptr_t> {
+                           if (message == WM_ORV_THEME_QUERY)
+                             subclassedWhenQueried = tree.SubclassedBy(ownerDrawn) != nullptr;
+                           return std::nullopt;
+                         });
   TestDialog dialog(tree);
   dialog.AttachWindow(tree, dlg);
   dialog.SubclassControls();
@@ -284,7 +286,8 @@ TEST_F(OrvDialogTest, ThemeMessagesWithoutTheme) {
   EXPECT_EQ(tree.Dc(dc).fills[0].first.right, 300);
   EXPECT_EQ(tree.BrushColor(tree.Dc(dc).fills[0].second), 0xF0F0F0u);
 
-  for (unsigned message : {orv::kWmCtlColorDlg, orv::kWmCtlColorStatic, orv::kWmCtlColorEdit, orv::kWmCtlColorListBox}) {
+  for (unsigned message :
+       {orv::kWmCtlColorDlg, orv::kWmCtlColorStatic, orv::kWmCtlColorEdit, orv::kWmCtlColorListBox}) {
     result = 99;
     EXPECT_FALSE(dialog.ProcessThemeMessage(dlg, message, 0x50, 0, result));
     EXPECT_EQ(result, 0);
@@ -317,7 +320,8 @@ TEST_F(OrvDialogTest, ThemeMessagesWithTheme) {
   EXPECT_EQ(dialog.firstColorCalls, 1);
   // A date picker writes in the system's text colour: it keeps the system's field.
   const WindowHandle picker = tree.AddChild(dlg, "SysDateTimePick32", 0, 1465);
-  EXPECT_FALSE(dialog.ProcessThemeMessage(dlg, orv::kWmCtlColorEdit, 0x60, reinterpret_cast<std::intptr_t>(picker), result));
+  EXPECT_FALSE(
+      dialog.ProcessThemeMessage(dlg, orv::kWmCtlColorEdit, 0x60, reinterpret_cast<std::intptr_t>(picker), result));
 
   ASSERT_TRUE(dialog.ProcessThemeMessage(dlg, orv::kWmEraseBkgnd, 0x60, 0, result));
   EXPECT_EQ(tree.BrushColor(tree.Dc(dc).fills.back().second), theme[0]);
@@ -349,20 +353,31 @@ TEST_F(OrvDialogTest, NotificationsAreReflectedToTheirSender) {
   EXPECT_EQ(tree.SentTo(button).back().wParam, 42u);
   EXPECT_FALSE(dialog.ReflectNotifications(dlg, orv::kWmCommand, 42, 0, result));  // a menu's
 
-  struct { void* hwndFrom; std::uintptr_t idFrom; unsigned code; } notify{button, 42, 0xFFFFFFF4u};
+  struct {
+    void* hwndFrom;
+    std::uintptr_t idFrom;
+    unsigned code;
+  } notify{button, 42, 0xFFFFFFF4u};
   ASSERT_TRUE(dialog.ReflectNotifications(dlg, orv::kWmNotify, 42, reinterpret_cast<std::intptr_t>(&notify), result));
   EXPECT_EQ(result, 0x204E);
 
-  struct { unsigned ctlType, ctlId, itemId, itemAction, itemState; void* hwndItem; } draw{4, 42, 0, 1, 0, button};
+  struct {
+    unsigned ctlType, ctlId, itemId, itemAction, itemState;
+    void* hwndItem;
+  } draw{4, 42, 0, 1, 0, button};
   ASSERT_TRUE(dialog.ReflectNotifications(dlg, orv::kWmDrawItem, 42, reinterpret_cast<std::intptr_t>(&draw), result));
   EXPECT_EQ(result, 0x202B);
   EXPECT_FALSE(dialog.ReflectNotifications(dlg, orv::kWmDrawItem, 0, reinterpret_cast<std::intptr_t>(&draw), result));
 
-  struct { unsigned ctlType, ctlId; } measure{4, 42};
-  ASSERT_TRUE(dialog.ReflectNotifications(dlg, orv::kWmMeasureItem, 42, reinterpret_cast<std::intptr_t>(&measure), result));
+  struct {
+    unsigned ctlType, ctlId;
+  } measure{4, 42};
+  ASSERT_TRUE(
+      dialog.ReflectNotifications(dlg, orv::kWmMeasureItem, 42, reinterpret_cast<std::intptr_t>(&measure), result));
   EXPECT_EQ(result, 0x202C);
 
-  ASSERT_TRUE(dialog.ReflectNotifications(dlg, orv::kWmCtlColorBtn, 0x70, reinterpret_cast<std::intptr_t>(button), result));
+  ASSERT_TRUE(
+      dialog.ReflectNotifications(dlg, orv::kWmCtlColorBtn, 0x70, reinterpret_cast<std::intptr_t>(button), result));
   EXPECT_EQ(result, 0x2135);
   EXPECT_FALSE(dialog.ReflectNotifications(dlg, orv::kWmEraseBkgnd, 0x70, 0, result));
 }

@@ -36,9 +36,9 @@ TEST_F(HostPrefsTest, PromptIsTheHostsTextOrTheTagItself) {
   } cases[] = {
       {"OK", "Accept", 0, "Accept"},
       {"Fibonacci", "Retracement levels", 0, "Retracement levels"},
-      {"NoSuchTag", "", 1, "NoSuchTag"},        // the host found nothing
-      {"EmptyPrompt", "", 0, "EmptyPrompt"},    // found, but empty: the tag stays
-      {"Odd", "Text", 7, "Text"},              // a text counts whatever the result says
+      {"NoSuchTag", "", 1, "NoSuchTag"},      // the host found nothing
+      {"EmptyPrompt", "", 0, "EmptyPrompt"},  // found, but empty: the tag stays
+      {"Odd", "Text", 7, "Text"},             // a text counts whatever the result says
       {"", "", 1, ""},
   };
   for (const Case& c : cases) {
@@ -95,8 +95,8 @@ TEST_F(HostPrefsTest, ColorTableTakesEveryColorChildInOrder) {
   std::vector<orv::ColorTableItem> list{{"Kept", 0x123456}};
   orv::LoadColorTable(list);
   const std::vector<std::pair<std::string, std::uint32_t>> expected = {
-      {"Kept", 0x123456},      {"Background", 0x302010}, {"Text", 0x00FF00},
-      {"", 255},               {"Broken", orv::kNoColor}, {"Empty", orv::kNoColor}};
+      {"Kept", 0x123456}, {"Background", 0x302010},  {"Text", 0x00FF00},
+      {"", 255},          {"Broken", orv::kNoColor}, {"Empty", orv::kNoColor}};
   ASSERT_EQ(list.size(), expected.size());
   for (std::size_t i = 0; i < expected.size(); ++i) {
     EXPECT_EQ(list[i].tag, expected[i].first) << i;

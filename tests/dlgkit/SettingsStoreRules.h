@@ -28,8 +28,10 @@ inline void ExpectStoreRules(orv::SettingsStore& store, std::string_view key = k
   // Names and key paths compare as the registry's do.
   std::string otherCase = "\\" + std::string(key) + "\\";
   for (char& c : otherCase) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
-    else if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + 32);
+    if (c >= 'a' && c <= 'z')
+      c = static_cast<char>(c - 32);
+    else if (c >= 'A' && c <= 'Z')
+      c = static_cast<char>(c + 32);
   }
   EXPECT_EQ(store.ReadDword(otherCase, "COUNT"), 4294967295u);
   ASSERT_TRUE(store.WriteDword(key, "count", 3));

@@ -12,9 +12,9 @@
 namespace {
 
 using orv::FileSettingsStore;
+using orv::MemorySettingsStore;
 using orv::test::ExpectStoreRules;
 using orv::test::kKey;
-using orv::MemorySettingsStore;
 
 TEST(SettingsStore, MemoryStoreKeepsTheRules) {
   MemorySettingsStore store;
@@ -25,8 +25,8 @@ class FileStoreTest : public ::testing::Test {
  protected:
   void SetUp() override {
     const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-    dir_ = std::filesystem::temp_directory_path() / ("orv-settings-" + std::string(info->name()) + "-" +
-                                                      std::to_string(std::random_device{}()));
+    dir_ = std::filesystem::temp_directory_path() /
+           ("orv-settings-" + std::string(info->name()) + "-" + std::to_string(std::random_device{}()));
     file_ = dir_ / "nested" / "settings.ini";
   }
   void TearDown() override {

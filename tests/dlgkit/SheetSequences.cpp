@@ -51,7 +51,7 @@ const std::vector<SequenceCase>& SequenceCases() {
        0,
        false,
        {kCancel},
-       {"sheet initialized", "A init", "A set",  //
+       {"sheet initialized", "A init", "A set",               //
         "now A", "press Cancel", "A querycancel", "A reset",  //
         "result 0"}},
       {"AnotherStartPageIsTheOnlyOneCreated",
@@ -59,7 +59,7 @@ const std::vector<SequenceCase>& SequenceCases() {
        1,
        false,
        {kCancel},
-       {"sheet initialized", "B init", "B set",  //
+       {"sheet initialized", "B init", "B set",               //
         "now B", "press Cancel", "B querycancel", "B reset",  //
         "result 0"}},
       {"TabChangesCreateEachPageOnceAndLeaveItAlive",
@@ -67,33 +67,74 @@ const std::vector<SequenceCase>& SequenceCases() {
        0,
        false,
        {Click(2), Click(0), Click(1), Click(2), kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "click C", "A kill", "C init", "C set",  //
-        "now C", "click A", "C kill", "A set",  //
-        "now A", "click B", "A kill", "B init", "B set",  //
-        "now B", "click C", "B kill", "C set",  //
-        "now C", "press Cancel", "C querycancel", "A reset", "B reset", "C reset",  //
+       {"sheet initialized",
+        "A init",
+        "A set",  //
+        "now A",
+        "click C",
+        "A kill",
+        "C init",
+        "C set",  //
+        "now C",
+        "click A",
+        "C kill",
+        "A set",  //
+        "now A",
+        "click B",
+        "A kill",
+        "B init",
+        "B set",  //
+        "now B",
+        "click C",
+        "B kill",
+        "C set",  //
+        "now C",
+        "press Cancel",
+        "C querycancel",
+        "A reset",
+        "B reset",
+        "C reset",  //
         "result 0"}},
       {"ApplyReachesEveryCreatedPageInTabOrderAndOkAgain",
        {Plain(), Plain(), Plain()},
        0,
        false,
        {kEdit, Click(2), kApply, kOk},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "type", "A changed",  //
-        "now A, Apply on", "click C", "A kill", "C init", "C set",  //
-        "now C, Apply on", "press Apply", "C kill", "A apply", "sheet apply A", "C apply", "sheet apply C",
+       {"sheet initialized",
+        "A init",
+        "A set",  //
+        "now A",
+        "type",
+        "A changed",  //
+        "now A, Apply on",
+        "click C",
+        "A kill",
+        "C init",
         "C set",  //
-        "now C", "press OK", "C kill", "A apply", "sheet apply A", "C apply", "sheet apply C",  //
+        "now C, Apply on",
+        "press Apply",
+        "C kill",
+        "A apply",
+        "sheet apply A",
+        "C apply",
+        "sheet apply C",
+        "C set",  //
+        "now C",
+        "press OK",
+        "C kill",
+        "A apply",
+        "sheet apply A",
+        "C apply",
+        "sheet apply C",  //
         "result 1"}},
       {"ApplyButtonStaysOffWithoutAChange",
        {Plain(), Plain(), Plain()},
        0,
        false,
        {Click(1), kApply, kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "click B", "A kill", "B init", "B set",  //
-        "now B", "press Apply",  //
+       {"sheet initialized", "A init", "A set",                          //
+        "now A", "click B", "A kill", "B init", "B set",                 //
+        "now B", "press Apply",                                          //
         "now B", "press Cancel", "B querycancel", "A reset", "B reset",  //
         "result 0"}},
       {"OkLeavesPagesNeverVisitedAlone",
@@ -101,8 +142,8 @@ const std::vector<SequenceCase>& SequenceCases() {
        0,
        false,
        {kEdit, kOk},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "type", "A changed",  //
+       {"sheet initialized", "A init", "A set",                               //
+        "now A", "type", "A changed",                                         //
         "now A, Apply on", "press OK", "A kill", "A apply", "sheet apply A",  //
         "result 1"}},
       {"CancelAfterApplyResetsAndGivesZero",
@@ -110,64 +151,147 @@ const std::vector<SequenceCase>& SequenceCases() {
        0,
        false,
        {kEdit, Click(1), kApply, kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "type", "A changed",  //
-        "now A, Apply on", "click B", "A kill", "B init", "B set",  //
-        "now B, Apply on", "press Apply", "B kill", "A apply", "sheet apply A", "B apply", "sheet apply B",
+       {"sheet initialized",
+        "A init",
+        "A set",  //
+        "now A",
+        "type",
+        "A changed",  //
+        "now A, Apply on",
+        "click B",
+        "A kill",
+        "B init",
         "B set",  //
-        "now B", "press Cancel", "B querycancel", "A reset", "B reset",  //
+        "now B, Apply on",
+        "press Apply",
+        "B kill",
+        "A apply",
+        "sheet apply A",
+        "B apply",
+        "sheet apply B",
+        "B set",  //
+        "now B",
+        "press Cancel",
+        "B querycancel",
+        "A reset",
+        "B reset",  //
         "result 0"}},
       {"APageThatMayNotBeLeftKeepsItsTabAndRefusesOk",
        {Plain(), RefusesToLeave(2), Plain()},
        0,
        false,
        {kEdit, Click(1), Click(2), kOk, kOk},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "type", "A changed",  //
-        "now A, Apply on", "click B", "A kill", "B init", "B set",  //
-        "now B, Apply on", "click C", "B kill",  //
-        "now B, Apply on", "press OK", "B kill",  //
-        "now B, Apply on", "press OK", "B kill", "A apply", "sheet apply A", "B apply", "sheet apply B",  //
+       {"sheet initialized",
+        "A init",
+        "A set",  //
+        "now A",
+        "type",
+        "A changed",  //
+        "now A, Apply on",
+        "click B",
+        "A kill",
+        "B init",
+        "B set",  //
+        "now B, Apply on",
+        "click C",
+        "B kill",  //
+        "now B, Apply on",
+        "press OK",
+        "B kill",  //
+        "now B, Apply on",
+        "press OK",
+        "B kill",
+        "A apply",
+        "sheet apply A",
+        "B apply",
+        "sheet apply B",  //
         "result 1"}},
       {"ARefusedApplyShowsTheRefusingPage",
        {RefusesFirstApply(ApplyResult::Invalid), Plain(), Plain()},
        0,
        false,
        {kEdit, Click(2), kApply, kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "type", "A changed",  //
-        "now A, Apply on", "click C", "A kill", "C init", "C set",  //
-        "now C, Apply on", "press Apply", "C kill", "A apply",  //
-        "now A, Apply on", "press Cancel", "A querycancel", "A reset", "C reset",  //
+       {"sheet initialized",
+        "A init",
+        "A set",  //
+        "now A",
+        "type",
+        "A changed",  //
+        "now A, Apply on",
+        "click C",
+        "A kill",
+        "C init",
+        "C set",  //
+        "now C, Apply on",
+        "press Apply",
+        "C kill",
+        "A apply",  //
+        "now A, Apply on",
+        "press Cancel",
+        "A querycancel",
+        "A reset",
+        "C reset",  //
         "result 0"}},
       {"ARefusedApplyThatKeepsThePageStaysPut",
        {RefusesFirstApply(ApplyResult::InvalidNoChangePage), Plain(), Plain()},
        0,
        false,
        {kEdit, Click(2), kApply, kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "type", "A changed",  //
-        "now A, Apply on", "click C", "A kill", "C init", "C set",  //
-        "now C, Apply on", "press Apply", "C kill", "A apply",  //
-        "now C, Apply on", "press Cancel", "C querycancel", "A reset", "C reset",  //
+       {"sheet initialized",
+        "A init",
+        "A set",  //
+        "now A",
+        "type",
+        "A changed",  //
+        "now A, Apply on",
+        "click C",
+        "A kill",
+        "C init",
+        "C set",  //
+        "now C, Apply on",
+        "press Apply",
+        "C kill",
+        "A apply",  //
+        "now C, Apply on",
+        "press Cancel",
+        "C querycancel",
+        "A reset",
+        "C reset",  //
         "result 0"}},
       {"APageRefusingToShowIsPassedOverForwards",
        {Plain(), RefusesToShow(), Plain()},
        0,
        false,
        {Click(1), Click(1), kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "click B", "A kill", "B init", "B set", "C init", "C set",  //
-        "now C", "click B", "C kill", "B set", "C set",  //
-        "now C", "press Cancel", "C querycancel", "A reset", "B reset", "C reset",  //
+       {"sheet initialized",
+        "A init",
+        "A set",  //
+        "now A",
+        "click B",
+        "A kill",
+        "B init",
+        "B set",
+        "C init",
+        "C set",  //
+        "now C",
+        "click B",
+        "C kill",
+        "B set",
+        "C set",  //
+        "now C",
+        "press Cancel",
+        "C querycancel",
+        "A reset",
+        "B reset",
+        "C reset",  //
         "result 0"}},
       {"ALastPageRefusingToShowIsShownAllTheSame",
        {Plain(), Plain(), RefusesToShow()},
        0,
        false,
        {Click(2), kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "click C", "A kill", "C init", "C set",  //
+       {"sheet initialized", "A init", "A set",                          //
+        "now A", "click C", "A kill", "C init", "C set",                 //
         "now C", "press Cancel", "C querycancel", "A reset", "C reset",  //
         "result 0"}},
       {"ARefusedCancelKeepsTheSheetUp",
@@ -175,8 +299,8 @@ const std::vector<SequenceCase>& SequenceCases() {
        0,
        false,
        {kCancel, kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "press Cancel", "A querycancel",  //
+       {"sheet initialized", "A init", "A set",               //
+        "now A", "press Cancel", "A querycancel",             //
         "now A", "press Cancel", "A querycancel", "A reset",  //
         "result 0"}},
       {"AChangeTheStartPageMakesWhileItStartsLeavesApplyOff",
@@ -184,8 +308,8 @@ const std::vector<SequenceCase>& SequenceCases() {
        0,
        false,
        {Click(1), kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "click B", "A kill", "B init", "B set",  //
+       {"sheet initialized", "A init", "A set",                          //
+        "now A", "click B", "A kill", "B init", "B set",                 //
         "now B", "press Cancel", "B querycancel", "A reset", "B reset",  //
         "result 0"}},
       {"AChangeALaterPageMakesWhileItStartsTurnsApplyOn",
@@ -193,43 +317,60 @@ const std::vector<SequenceCase>& SequenceCases() {
        0,
        false,
        {Click(1), kApply, kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A", "click B", "A kill", "B init", "B set",  //
-        "now B, Apply on", "press Apply", "B kill", "A apply", "sheet apply A", "B apply", "sheet apply B", "B set",  //
-        "now B", "press Cancel", "B querycancel", "A reset", "B reset",  //
+       {"sheet initialized",
+        "A init",
+        "A set",  //
+        "now A",
+        "click B",
+        "A kill",
+        "B init",
+        "B set",  //
+        "now B, Apply on",
+        "press Apply",
+        "B kill",
+        "A apply",
+        "sheet apply A",
+        "B apply",
+        "sheet apply B",
+        "B set",  //
+        "now B",
+        "press Cancel",
+        "B querycancel",
+        "A reset",
+        "B reset",  //
         "result 0"}},
       {"WizardGoesNextNextAndFinishes",
        {Offers(kWizNext), Offers(kWizBack | kWizNext), Offers(kWizBack | kWizFinish)},
        0,
        true,
        {kNext, kNext, kFinish},
-       {"sheet initialized", "A init", "A set",  //
-        "now A, Next", "press Next", "A next", "A kill", "B init", "B set",  //
+       {"sheet initialized", "A init", "A set",                                    //
+        "now A, Next", "press Next", "A next", "A kill", "B init", "B set",        //
         "now B, Back, Next", "press Next", "B next", "B kill", "C init", "C set",  //
-        "now C, Back, Finish", "press Finish", "C finish",  //
+        "now C, Back, Finish", "press Finish", "C finish",                         //
         "result 1"}},
       {"WizardPageThatMayNotBeLeftKeepsNextAndBackGoesBack",
        {Offers(kWizNext), OffersAndRefusesToLeave(kWizBack | kWizNext, 1), Offers(kWizBack | kWizFinish)},
        0,
        true,
        {kNext, kNext, kBack, kNext, kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A, Next", "press Next", "A next", "A kill", "B init", "B set",  //
-        "now B, Back, Next", "press Next", "B next", "B kill",  //
-        "now B, Back, Next", "press Back", "B back", "B kill", "A set",  //
-        "now A, Next", "press Next", "A next", "A kill", "B set",  //
-        "now B, Back, Next", "press Cancel", "B querycancel", "A reset", "B reset",  //
+       {"sheet initialized", "A init",       "A set",                                         //
+        "now A, Next",       "press Next",   "A next",        "A kill",  "B init",  "B set",  //
+        "now B, Back, Next", "press Next",   "B next",        "B kill",                       //
+        "now B, Back, Next", "press Back",   "B back",        "B kill",  "A set",             //
+        "now A, Next",       "press Next",   "A next",        "A kill",  "B set",             //
+        "now B, Back, Next", "press Cancel", "B querycancel", "A reset", "B reset",           //
         "result 0"}},
       {"WizardOffersBackAndNextUntilAPageSaysOtherwise",
        {Plain(), Plain(), Plain()},
        0,
        true,
        {kFinish, kNext, kNext, kNext, kCancel},
-       {"sheet initialized", "A init", "A set",  //
-        "now A, Back, Next", "press Finish",  //
-        "now A, Back, Next", "press Next", "A next", "A kill", "B init", "B set",  //
-        "now B, Back, Next", "press Next", "B next", "B kill", "C init", "C set",  //
-        "now C, Back, Next", "press Next", "C next",  //
+       {"sheet initialized", "A init",       "A set",                                           //
+        "now A, Back, Next", "press Finish",                                                    //
+        "now A, Back, Next", "press Next",   "A next",        "A kill",  "B init",  "B set",    //
+        "now B, Back, Next", "press Next",   "B next",        "B kill",  "C init",  "C set",    //
+        "now C, Back, Next", "press Next",   "C next",                                          //
         "now C, Back, Next", "press Cancel", "C querycancel", "A reset", "B reset", "C reset",  //
         "result 0"}},
       {"WizardButtonsAreTheWizardsNotThePages",
@@ -237,11 +378,29 @@ const std::vector<SequenceCase>& SequenceCases() {
        0,
        true,
        {kNext, kNext, kBack, kFinish},
-       {"sheet initialized", "A init", "A set",  //
-        "now A, Next", "press Next", "A next", "A kill", "B init", "B set",  //
-        "now B, Next", "press Next", "B next", "B kill", "C init", "C set",  //
-        "now C, Back, Finish", "press Back", "C back", "C kill", "B set",  //
-        "now B, Back, Finish", "press Finish", "B finish",  //
+       {"sheet initialized",
+        "A init",
+        "A set",  //
+        "now A, Next",
+        "press Next",
+        "A next",
+        "A kill",
+        "B init",
+        "B set",  //
+        "now B, Next",
+        "press Next",
+        "B next",
+        "B kill",
+        "C init",
+        "C set",  //
+        "now C, Back, Finish",
+        "press Back",
+        "C back",
+        "C kill",
+        "B set",  //
+        "now B, Back, Finish",
+        "press Finish",
+        "B finish",  //
         "result 1"}},
   };
   return cases;

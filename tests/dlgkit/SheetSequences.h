@@ -35,7 +35,7 @@ struct PageRole {
   int refuseLeave = 0;         // refuses this many kill-actives, then lets the user go
   bool refuseShow = false;     // refuses every activation
   ApplyResult firstApply = ApplyResult::NoError;  // its answer to the first apply; later ones accept
-  bool refuseCancel = false;   // refuses the first query cancel
+  bool refuseCancel = false;                      // refuses the first query cancel
   unsigned wizardButtons = 0;  // a wizard page: the buttons it offers when activated (0: leaves them)
 };
 
@@ -131,9 +131,9 @@ struct SequenceCase {
   const char* name;
   std::vector<PageRole> pages;  // A, B, C ... in tab order
   int startPage;
-  bool wizard;                  // Back / Next / Finish instead of tabs, OK and Apply
-  std::vector<Step> steps;      // the last one closes the sheet
-  Log expected;                 // ends with "result N", N being PropertySheet's result
+  bool wizard;              // Back / Next / Finish instead of tabs, OK and Apply
+  std::vector<Step> steps;  // the last one closes the sheet
+  Log expected;             // ends with "result N", N being PropertySheet's result
 };
 
 // The user's hands on a running sheet.
@@ -145,7 +145,7 @@ class SheetDriver {
   virtual bool WizardButtonEnabled(unsigned button) = 0;  // kWizBack, kWizNext, kWizFinish
   virtual void ClickTab(int index) = 0;
   virtual void TypeIntoCurrentPage() = 0;  // into its edit field
-  virtual void PressApply() = 0;  // only a live Apply button can be pressed
+  virtual void PressApply() = 0;           // only a live Apply button can be pressed
   virtual void PressOk() = 0;
   virtual void PressCancel() = 0;
   // A wizard's buttons; only a live button can be pressed.

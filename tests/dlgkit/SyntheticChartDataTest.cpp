@@ -19,16 +19,13 @@ TEST(SyntheticChartData, DayNumbersAndTradingDays) {
     bool trading;
   };
   const Day days[] = {
-      {1900, 1, 1, 0, false},         // a Monday, but New Year's Day
-      {1900, 1, 2, 1, true},
-      {1998, 7, 27, 36001, true},     // the control points' default date
-      {2000, 2, 29, 36583, true},
-      {2023, 7, 4, 45109, false},     // Independence Day
-      {2023, 12, 25, 45283, false},   // Christmas, a Monday
-      {2023, 12, 26, 45284, true},
-      {2024, 6, 28, 45469, true},     // a Friday
-      {2024, 6, 29, 45470, false},    // Saturday
-      {2024, 6, 30, 45471, false},    // Sunday
+      {1900, 1, 1, 0, false},                                    // a Monday, but New Year's Day
+      {1900, 1, 2, 1, true},        {1998, 7, 27, 36001, true},  // the control points' default date
+      {2000, 2, 29, 36583, true},   {2023, 7, 4, 45109, false},  // Independence Day
+      {2023, 12, 25, 45283, false},                              // Christmas, a Monday
+      {2023, 12, 26, 45284, true},  {2024, 6, 28, 45469, true},  // a Friday
+      {2024, 6, 29, 45470, false},                               // Saturday
+      {2024, 6, 30, 45471, false},                               // Sunday
   };
   for (const Day& d : days) {
     SCOPED_TRACE(d.number);
@@ -73,7 +70,7 @@ struct Find {
   std::int32_t date, time;
   Status status;
   std::int32_t expectedDate, expectedMinutes;  // of the bar found
-  std::int32_t exact;                           // 1: left as it was
+  std::int32_t exact;                          // 1: left as it was
 };
 
 TEST(SyntheticChartData, DateToPosFindsTheFirstBarAtOrAfter) {
@@ -109,7 +106,7 @@ TEST(SyntheticChartData, DateToPosFindsTheFirstBarAtOrAfter) {
 TEST(SyntheticChartData, FailedCallsLeaveOutputsAloneAndEveryCallIsLogged) {
   auto chart = Chart::Daily(10);
   double value = -1;
-  EXPECT_EQ(chart->GetValue(4, 0, value), kStatusInvalidArg);  // no such field
+  EXPECT_EQ(chart->GetValue(4, 0, value), kStatusInvalidArg);   // no such field
   EXPECT_EQ(chart->GetValue(0, 10, value), kStatusInvalidArg);  // no such bar
   std::int32_t date = -1;
   EXPECT_EQ(chart->PosToDateOnly(-1, date), kStatusInvalidArg);

@@ -85,16 +85,16 @@ struct Styles {
 TEST(TemplateLayout, StylesAreTakenFromTheStatementAndItsFlags) {
   const Styles rows[] = {
       // id                        visible enabled group  3state auto   ro     number
-      {IDC_FIXTURE_NAME,           true,   true,   false, false, true,  true,  false},
-      {IDC_FIXTURE_COUNT,          true,   true,   true,  false, true,  false, true},
-      {IDC_FIXTURE_SHOWN,          true,   true,   false, false, true,  false, false},
-      {IDC_FIXTURE_MIXED,          true,   true,   false, true,  true,  false, false},
-      {IDC_FIXTURE_MIXED_CONTROL,  true,   true,   false, true,  true,  false, false},
-      {IDC_FIXTURE_PLAIN_BOX,      true,   true,   false, false, true,  false, false},
-      {IDC_FIXTURE_A,              true,   true,   true,  false, true,  false, false},
-      {IDC_FIXTURE_D,              true,   true,   false, false, false, false, false},
-      {IDC_FIXTURE_HIDDEN,         false,  true,   false, false, true,  false, false},
-      {IDC_FIXTURE_OFF,            true,   false,  false, false, true,  false, false},
+      {IDC_FIXTURE_NAME, true, true, false, false, true, true, false},
+      {IDC_FIXTURE_COUNT, true, true, true, false, true, false, true},
+      {IDC_FIXTURE_SHOWN, true, true, false, false, true, false, false},
+      {IDC_FIXTURE_MIXED, true, true, false, true, true, false, false},
+      {IDC_FIXTURE_MIXED_CONTROL, true, true, false, true, true, false, false},
+      {IDC_FIXTURE_PLAIN_BOX, true, true, false, false, true, false, false},
+      {IDC_FIXTURE_A, true, true, true, false, true, false, false},
+      {IDC_FIXTURE_D, true, true, false, false, false, false, false},
+      {IDC_FIXTURE_HIDDEN, false, true, false, false, true, false, false},
+      {IDC_FIXTURE_OFF, true, false, false, false, true, false, false},
   };
   for (const Styles& s : rows) {
     SCOPED_TRACE(Row(s.id).line);

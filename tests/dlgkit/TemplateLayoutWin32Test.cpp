@@ -19,17 +19,25 @@ INT_PTR CALLBACK QuietDialogProc(HWND, UINT message, WPARAM, LPARAM) { return me
 
 const char* ClassOf(FakeControlKind kind) {
   switch (kind) {
-    case FakeControlKind::Static: return "Static";
-    case FakeControlKind::Edit: return "Edit";
+    case FakeControlKind::Static:
+      return "Static";
+    case FakeControlKind::Edit:
+      return "Edit";
     case FakeControlKind::PushButton:
     case FakeControlKind::CheckBox:
     case FakeControlKind::RadioButton:
-    case FakeControlKind::GroupBox: return "Button";
-    case FakeControlKind::ComboBox: return "ComboBox";
-    case FakeControlKind::ListBox: return "ListBox";
-    case FakeControlKind::ListView: return "SysListView32";
-    case FakeControlKind::UpDown: return "msctls_updown32";
-    case FakeControlKind::DatePicker: return "SysDateTimePick32";
+    case FakeControlKind::GroupBox:
+      return "Button";
+    case FakeControlKind::ComboBox:
+      return "ComboBox";
+    case FakeControlKind::ListBox:
+      return "ListBox";
+    case FakeControlKind::ListView:
+      return "SysListView32";
+    case FakeControlKind::UpDown:
+      return "msctls_updown32";
+    case FakeControlKind::DatePicker:
+      return "SysDateTimePick32";
   }
   return "";
 }
@@ -40,9 +48,12 @@ LONG ButtonTypeOf(const TemplateControl& row) {
     case FakeControlKind::CheckBox:
       if (row.threeState) return row.automatic ? BS_AUTO3STATE : BS_3STATE;
       return row.automatic ? BS_AUTOCHECKBOX : BS_CHECKBOX;
-    case FakeControlKind::RadioButton: return row.automatic ? BS_AUTORADIOBUTTON : BS_RADIOBUTTON;
-    case FakeControlKind::GroupBox: return BS_GROUPBOX;
-    default: return -1;
+    case FakeControlKind::RadioButton:
+      return row.automatic ? BS_AUTORADIOBUTTON : BS_RADIOBUTTON;
+    case FakeControlKind::GroupBox:
+      return BS_GROUPBOX;
+    default:
+      return -1;
   }
 }
 

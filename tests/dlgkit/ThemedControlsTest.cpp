@@ -40,11 +40,16 @@ ControlCase Case(const char* name) {
 // its window, and gone from the window, with its brushes, when the object goes.
 TEST(ThemedControlsTest, EachClassIsThemedThroughItsWindowAndLetsGoOfIt) {
   const ControlCase cases[] = {
-      Case<COrvButton>("COrvButton"),         Case<COrvRadioOrCheck>("COrvRadioOrCheck"),
-      Case<COrvComboBox>("COrvComboBox"),     Case<COrvEditCtrl>("COrvEditCtrl"),
-      Case<COrvGroupBox>("COrvGroupBox"),     Case<COrvListBox>("COrvListBox"),
-      Case<COrvListViewCtrl>("COrvListViewCtrl"), Case<COrvHeader>("COrvHeader"),
-      Case<COrvStaticText>("COrvStaticText"), Case<COrvTabbyCtrl>("COrvTabbyCtrl"),
+      Case<COrvButton>("COrvButton"),
+      Case<COrvRadioOrCheck>("COrvRadioOrCheck"),
+      Case<COrvComboBox>("COrvComboBox"),
+      Case<COrvEditCtrl>("COrvEditCtrl"),
+      Case<COrvGroupBox>("COrvGroupBox"),
+      Case<COrvListBox>("COrvListBox"),
+      Case<COrvListViewCtrl>("COrvListViewCtrl"),
+      Case<COrvHeader>("COrvHeader"),
+      Case<COrvStaticText>("COrvStaticText"),
+      Case<COrvTabbyCtrl>("COrvTabbyCtrl"),
       Case<COrvUpDownCtrl>("COrvUpDownCtrl"),
   };
   for (auto& c : cases) {
@@ -87,8 +92,9 @@ TEST(ThemedControlsTest, ListViewSetsItsColoursAndThemesItsHeader) {
   std::vector<std::pair<unsigned, std::intptr_t>> colourMessages;
   for (auto& sent : tree.SentTo(list))
     if (sent.message != orv::kLvmGetHeader) colourMessages.emplace_back(sent.message, sent.lParam);
-  EXPECT_EQ(colourMessages, (std::vector<std::pair<unsigned, std::intptr_t>>{
-                                {orv::kLvmSetBkColor, From(4)}, {orv::kLvmSetTextBkColor, From(4)}, {orv::kLvmSetTextColor, From(3)}}));
+  EXPECT_EQ(colourMessages,
+            (std::vector<std::pair<unsigned, std::intptr_t>>{
+                {orv::kLvmSetBkColor, From(4)}, {orv::kLvmSetTextBkColor, From(4)}, {orv::kLvmSetTextColor, From(3)}}));
   EXPECT_EQ(control.GetHeader()->faceColor, From(1));
   EXPECT_EQ(control.GetHeader()->textColor, From(3));
   EXPECT_TRUE(control.GetHeader()->IsThemed());

@@ -35,23 +35,19 @@ TEST_P(BreakDown, GivesTheCalendarDateAndTime) {
 INSTANTIATE_TEST_SUITE_P(
     Dates, BreakDown,
     testing::Values(
-        BreakDownCase{0.0, {1899, 12, 30, 0, 0, 0, 6, 364}},
-        BreakDownCase{1.0, {1899, 12, 31, 0, 0, 0, 0, 365}},
+        BreakDownCase{0.0, {1899, 12, 30, 0, 0, 0, 6, 364}}, BreakDownCase{1.0, {1899, 12, 31, 0, 0, 0, 0, 365}},
         BreakDownCase{2.0, {1900, 1, 1, 0, 0, 0, 1, 1}},
         // 1900 is no leap year: 28 February is followed by 1 March
-        BreakDownCase{60.0, {1900, 2, 28, 0, 0, 0, 3, 59}},
-        BreakDownCase{61.0, {1900, 3, 1, 0, 0, 0, 4, 60}},
+        BreakDownCase{60.0, {1900, 2, 28, 0, 0, 0, 3, 59}}, BreakDownCase{61.0, {1900, 3, 1, 0, 0, 0, 4, 60}},
         // 2000 is one
         BreakDownCase{36585.75, {2000, 2, 29, 18, 0, 0, 2, 60}},
         BreakDownCase{36891.0, {2000, 12, 31, 0, 0, 0, 0, 366}},
         BreakDownCase{40000.0 + (15 * 3600 + 4 * 60 + 5) * kSecond, {2009, 7, 6, 15, 4, 5, 1, 187}},
         // before day 0 the whole part counts back and the time is the fraction's size
-        BreakDownCase{-1.25, {1899, 12, 29, 6, 0, 0, 5, 363}},
-        BreakDownCase{-0.5, {1899, 12, 30, 12, 0, 0, 6, 364}},
+        BreakDownCase{-1.25, {1899, 12, 29, 6, 0, 0, 5, 363}}, BreakDownCase{-0.5, {1899, 12, 30, 12, 0, 0, 6, 364}},
         BreakDownCase{-36522.0, {1800, 1, 1, 0, 0, 0, 3, 1}},
         // the ends of the range
-        BreakDownCase{-657434.0, {100, 1, 1, 0, 0, 0, 5, 1}},
-        BreakDownCase{-657434.999, {100, 1, 1, 23, 58, 34, 5, 1}},
+        BreakDownCase{-657434.0, {100, 1, 1, 0, 0, 0, 5, 1}}, BreakDownCase{-657434.999, {100, 1, 1, 23, 58, 34, 5, 1}},
         BreakDownCase{2958465.5, {9999, 12, 31, 12, 0, 0, 5, 365}},
         // to the nearest second, carrying into the next day, month and year
         BreakDownCase{40000.5 + 0.4 * kSecond, {2009, 7, 6, 12, 0, 0, 1, 187}},
@@ -62,9 +58,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(BreakDown, RefusesWhatThePlatformCannotBreakDown) {
   const DateParts untouched{1, 2, 3, 4, 5, 6, 0, 7};
-  for (double date : {-657435.0, -1e9, 2958466.0, 2958465.0 + 86399.6 * kSecond, 1e300,
-                      std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
-                      std::numeric_limits<double>::quiet_NaN()}) {
+  for (double date :
+       {-657435.0, -1e9, 2958466.0, 2958465.0 + 86399.6 * kSecond, 1e300, std::numeric_limits<double>::infinity(),
+        -std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
     DateParts parts = untouched;
     EXPECT_FALSE(orv::BreakDownDate(date, parts)) << date;
     EXPECT_EQ(parts, untouched) << date;
@@ -136,23 +132,16 @@ TEST_P(FromParts, MakesTheDateOrRefuses) {
 
 INSTANTIATE_TEST_SUITE_P(
     Dates, FromParts,
-    testing::Values(FromPartsCase{1899, 12, 30, 0, 0, 0, true, 0.0},
-                    FromPartsCase{1900, 1, 1, 0, 0, 0, true, 2.0},
-                    FromPartsCase{1998, 7, 27, 0, 0, 0, true, 36003.0},
-                    FromPartsCase{2000, 2, 29, 18, 0, 0, true, 36585.75},
-                    FromPartsCase{1899, 12, 29, 6, 0, 0, true, -1.25},
-                    FromPartsCase{100, 1, 1, 0, 0, 0, true, -657434.0},
-                    FromPartsCase{9999, 12, 31, 0, 0, 0, true, 2958465.0},
-                    FromPartsCase{1900, 2, 29, 0, 0, 0, false, 777.0},
-                    FromPartsCase{2009, 4, 31, 0, 0, 0, false, 777.0},
-                    FromPartsCase{2009, 13, 1, 0, 0, 0, false, 777.0},
-                    FromPartsCase{2009, 0, 1, 0, 0, 0, false, 777.0},
-                    FromPartsCase{2009, 7, 0, 0, 0, 0, false, 777.0},
-                    FromPartsCase{2009, 7, 6, 24, 0, 0, false, 777.0},
-                    FromPartsCase{2009, 7, 6, 0, 60, 0, false, 777.0},
-                    FromPartsCase{2009, 7, 6, 0, 0, -1, false, 777.0},
-                    FromPartsCase{99, 12, 31, 0, 0, 0, false, 777.0},
-                    FromPartsCase{10000, 1, 1, 0, 0, 0, false, 777.0}));
+    testing::Values(
+        FromPartsCase{1899, 12, 30, 0, 0, 0, true, 0.0}, FromPartsCase{1900, 1, 1, 0, 0, 0, true, 2.0},
+        FromPartsCase{1998, 7, 27, 0, 0, 0, true, 36003.0}, FromPartsCase{2000, 2, 29, 18, 0, 0, true, 36585.75},
+        FromPartsCase{1899, 12, 29, 6, 0, 0, true, -1.25}, FromPartsCase{100, 1, 1, 0, 0, 0, true, -657434.0},
+        FromPartsCase{9999, 12, 31, 0, 0, 0, true, 2958465.0}, FromPartsCase{1900, 2, 29, 0, 0, 0, false, 777.0},
+        FromPartsCase{2009, 4, 31, 0, 0, 0, false, 777.0}, FromPartsCase{2009, 13, 1, 0, 0, 0, false, 777.0},
+        FromPartsCase{2009, 0, 1, 0, 0, 0, false, 777.0}, FromPartsCase{2009, 7, 0, 0, 0, 0, false, 777.0},
+        FromPartsCase{2009, 7, 6, 24, 0, 0, false, 777.0}, FromPartsCase{2009, 7, 6, 0, 60, 0, false, 777.0},
+        FromPartsCase{2009, 7, 6, 0, 0, -1, false, 777.0}, FromPartsCase{99, 12, 31, 0, 0, 0, false, 777.0},
+        FromPartsCase{10000, 1, 1, 0, 0, 0, false, 777.0}));
 
 // Day 0 has two spellings (-0.25 and 0.25 are both 06:00 on 30 December 1899); the date made
 // from the parts is the positive one, and breaks down to the same parts.

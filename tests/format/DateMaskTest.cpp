@@ -44,15 +44,11 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         MaskCase{"%a %A %b %h %B", kMonday2009, "Mon Monday Jul Jul July"},
         MaskCase{"%d %m %y %Y", kMonday2009, "06 07 09 2009"},
-        MaskCase{"%H %I %M %S %p", kMonday2009, "15 03 04 05 PM"},
-        MaskCase{"%j %w %U %W", kMonday2009, "187 1 27 27"},
-        MaskCase{"%x|%X|%c", kMonday2009, "07/06/09|15:04:05|07/06/09 15:04:05"},
-        MaskCase{"%z%Z|", kMonday2009, "|"},
-        MaskCase{"", kMonday2009, ""},
-        MaskCase{"no fields", kMonday2009, "no fields"},
+        MaskCase{"%H %I %M %S %p", kMonday2009, "15 03 04 05 PM"}, MaskCase{"%j %w %U %W", kMonday2009, "187 1 27 27"},
+        MaskCase{"%x|%X|%c", kMonday2009, "07/06/09|15:04:05|07/06/09 15:04:05"}, MaskCase{"%z%Z|", kMonday2009, "|"},
+        MaskCase{"", kMonday2009, ""}, MaskCase{"no fields", kMonday2009, "no fields"},
         // '#' drops leading zeros of numbers only
-        MaskCase{"%#d %#m %#y %#Y", kMonday2009, "6 7 9 2009"},
-        MaskCase{"%#H %#I %#M %#S", kMonday2009, "15 3 4 5"},
+        MaskCase{"%#d %#m %#y %#Y", kMonday2009, "6 7 9 2009"}, MaskCase{"%#H %#I %#M %#S", kMonday2009, "15 3 4 5"},
         MaskCase{"%#m/%#d/%#y %#H:%#M:%#S", kTwoDigits, "10/20/10 23:59:59"},
         MaskCase{"%d %#d %H %#H %I %#I %M %#M %S %#S %p", kSunday2000, "02 2 00 0 12 12 07 7 08 8 AM"},
         MaskCase{"%y %#y %j %#j %w %#w %U %#U %W %#W", kSunday2000, "00 0 002 2 0 0 01 1 00 0"},
@@ -61,14 +57,12 @@ INSTANTIATE_TEST_SUITE_P(
         MaskCase{"%#c", kMonday2009, "Monday, July 6, 2009, 15:04:05"},
         MaskCase{"%#a %#B %#p %#%", kMonday2009, "Mon July PM %"},
         // week numbers at the turn of the year: the first Sunday or Monday starts week 1
-        MaskCase{"%U %W %a", kSaturday2000, "00 00 Sat"},
-        MaskCase{"%U %W %a", kMonday2007, "00 01 Mon"},
+        MaskCase{"%U %W %a", kSaturday2000, "00 00 Sat"}, MaskCase{"%U %W %a", kMonday2007, "00 01 Mon"},
         MaskCase{"%j %U %W %I %p", kLeapYearEnd, "366 53 53 12 PM"},
         // the year in full is not padded
         MaskCase{"%Y %y %#y %m/%d", kYear100, "100 00 0 01/01"},
         // what the library doesn't know stands as written
-        MaskCase{"100%% %Q %#Q %", kMonday2009, "100% %Q %#Q %"},
-        MaskCase{"end %#", kMonday2009, "end %#"},
+        MaskCase{"100%% %Q %#Q %", kMonday2009, "100% %Q %#Q %"}, MaskCase{"end %#", kMonday2009, "end %#"},
         MaskCase{"%%d", kMonday2009, "%d"}));
 
 TEST(Mask, NamesOfFieldsOutOfRangeAreMarkedNotRead) {
@@ -81,7 +75,9 @@ TEST(Mask, NamesOfFieldsOutOfRangeAreMarkedNotRead) {
 TEST(Mask, NulInTheMaskIsCopied) {
   std::string text;
   EXPECT_TRUE(orv::FormatDateMask(std::string_view("%d\0%m", 5), kMonday2009, orv::kDateTextCapacity, text));
-  EXPECT_EQ(text, std::string("06\0" "07", 5));
+  EXPECT_EQ(text, std::string("06\0"
+                              "07",
+                              5));
 }
 
 // strftime's buffer holds the text and its terminator; a text that doesn't fit gives nothing.

@@ -26,20 +26,20 @@ TEST_P(Picture, BecomesAMask) {
   EXPECT_EQ(orv::ConvertDatePicture(GetParam().picture), GetParam().mask) << GetParam().picture;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Pictures, Picture,
-    testing::Values(PictureCase{"M/d/yyyy", "%#m/%#d/%Y"}, PictureCase{"dd.MM.yyyy", "%d.%m.%Y"},
-                    PictureCase{"yy/MM/dd", "%y/%m/%d"}, PictureCase{"d-MMM-y", "%#d-%b-%#y"},
-                    PictureCase{"dddd, MMMM d, yyyy", "%A, %B %#d, %Y"}, PictureCase{"ddd", "%a"},
-                    PictureCase{"dddddd MMMMMM", "%A %B"}, PictureCase{"yyy yyyyy", "%Y %Y"},
-                    PictureCase{"gg yyyy", "A.D. %Y"}, PictureCase{"g", "A.D."},
-                    // quoted text is literal; two quotes are one, inside quotes or out
-                    PictureCase{"d 'de' MMMM", "%#d de %B"}, PictureCase{"'dMy'", "dMy"},
-                    PictureCase{"'it''s' d", "it's %#d"}, PictureCase{"d''M", "%#d'%#m"},
-                    PictureCase{"'open d", "open d"}, PictureCase{"''''", "''"},
-                    // '%' must not start a conversion; time letters are plain text in a date
-                    PictureCase{"100%", "100%%"}, PictureCase{"'%d'", "%%d"}, PictureCase{"%d", "%%%#d"},
-                    PictureCase{"h:mm tt", "h:mm tt"}, PictureCase{"", ""}));
+INSTANTIATE_TEST_SUITE_P(Pictures, Picture,
+                         testing::Values(PictureCase{"M/d/yyyy", "%#m/%#d/%Y"}, PictureCase{"dd.MM.yyyy", "%d.%m.%Y"},
+                                         PictureCase{"yy/MM/dd", "%y/%m/%d"}, PictureCase{"d-MMM-y", "%#d-%b-%#y"},
+                                         PictureCase{"dddd, MMMM d, yyyy", "%A, %B %#d, %Y"}, PictureCase{"ddd", "%a"},
+                                         PictureCase{"dddddd MMMMMM", "%A %B"}, PictureCase{"yyy yyyyy", "%Y %Y"},
+                                         PictureCase{"gg yyyy", "A.D. %Y"}, PictureCase{"g", "A.D."},
+                                         // quoted text is literal; two quotes are one, inside quotes or out
+                                         PictureCase{"d 'de' MMMM", "%#d de %B"}, PictureCase{"'dMy'", "dMy"},
+                                         PictureCase{"'it''s' d", "it's %#d"}, PictureCase{"d''M", "%#d'%#m"},
+                                         PictureCase{"'open d", "open d"}, PictureCase{"''''", "''"},
+                                         // '%' must not start a conversion; time letters are plain text in a date
+                                         PictureCase{"100%", "100%%"}, PictureCase{"'%d'", "%%d"},
+                                         PictureCase{"%d", "%%%#d"}, PictureCase{"h:mm tt", "h:mm tt"},
+                                         PictureCase{"", ""}));
 
 #if !defined(_WIN32)
 // Natively every locale answers as the United States'; on Windows the platform's locale does.

@@ -74,8 +74,8 @@ TEST(PlatformCalendar, MakesDatesAsSystemTimeToVariantTime) {
 
 // The platform rounds the time to the nearest second, and so does the program.
 TEST(PlatformCalendar, RoundsToTheNearestSecondAsThePlatform) {
-  for (double date : {40000.5 + 0.7 / 86400.0, 40000.5 + 0.3 / 86400.0, -1.25 - 0.7 / 86400.0,
-                      40000.0 + 86399.7 / 86400.0}) {
+  for (double date :
+       {40000.5 + 0.7 / 86400.0, 40000.5 + 0.3 / 86400.0, -1.25 - 0.7 / 86400.0, 40000.0 + 86399.7 / 86400.0}) {
     UDATE platform{};
     ASSERT_EQ(::VarUdateFromDate(date, 0, &platform), S_OK) << date;
     orv::DateParts parts;

@@ -18,8 +18,7 @@
 namespace {
 
 struct CheckingOwner {
-  orv::Status FireStatusEvent(std::int32_t, const std::string& value, std::int32_t, const std::string&,
-                              std::int32_t&) {
+  orv::Status FireStatusEvent(std::int32_t, const std::string& value, std::int32_t, const std::string&, std::int32_t&) {
     XmlNode document = XmlCreateDocument();
     if (!XmlLoadString(document, value)) __builtin_trap();  // the sheet sent markup it can't read
     if (!XmlFindNode(document, "PropertyPage", true)) __builtin_trap();
@@ -42,7 +41,8 @@ void PlayUser(orv::FakeControls& c, std::size_t seed) {
   }
   for (int id : {IDC_LS_DAY_TREND_SNAP, IDC_LS_INTRA_TREND_SNAP, IDC_LS_DAY_HORZ_SNAP, IDC_LS_DAY_LRC_SNAP,
                  IDC_LS_DAY_VWAP_SNAP}) {
-    if (Reachable(c, id) && c.ComboGetCount(id) > 0) c.SelectComboItem(id, static_cast<int>(seed % c.ComboGetCount(id)));
+    if (Reachable(c, id) && c.ComboGetCount(id) > 0)
+      c.SelectComboItem(id, static_cast<int>(seed % c.ComboGetCount(id)));
   }
   if (Reachable(c, IDC_LS_INTRA_SPIN)) {
     c.ClickSpin(IDC_LS_INTRA_SPIN, 1);
@@ -75,9 +75,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   try {
     sheet.InitFromXml(XmlFindNode(document, "PropertySheet", true));
     switch (size % 3) {
-      case 1: sheet.SetChartData(orv::SyntheticChartData::Daily(40)); break;
-      case 2: sheet.SetChartData(orv::SyntheticChartData::Intraday(1)); break;
-      default: break;  // DoModal without chart data
+      case 1:
+        sheet.SetChartData(orv::SyntheticChartData::Daily(40));
+        break;
+      case 2:
+        sheet.SetChartData(orv::SyntheticChartData::Intraday(1));
+        break;
+      default:
+        break;  // DoModal without chart data
     }
     const std::intptr_t result = sheet.DoModal(runner);
     if (result != 0 && result != 1) __builtin_trap();

@@ -1,6 +1,6 @@
 // Any text as the host's document: the sheet reads it, builds its pages, and a user changes the
-// Advanced page where it is the first tab and presses OK (then Cancel, if a page refused). Refusals are XmlComError; nothing else may
-// escape, and nothing may crash or leak.
+// Advanced page where it is the first tab and presses OK (then Cancel, if a page refused). Refusals are XmlComError;
+// nothing else may escape, and nothing may crash or leak.
 
 #include <cstddef>
 #include <cstdint>
@@ -16,8 +16,7 @@
 namespace {
 
 struct CountingOwner {
-  orv::Status FireStatusEvent(std::int32_t, const std::string& value, std::int32_t, const std::string&,
-                              std::int32_t&) {
+  orv::Status FireStatusEvent(std::int32_t, const std::string& value, std::int32_t, const std::string&, std::int32_t&) {
     if (value.empty()) __builtin_trap();  // an event always carries a document
     ++events;
     return 0;

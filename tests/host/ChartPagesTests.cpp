@@ -38,8 +38,9 @@ TEST_F(ChartPagesTest, PlainObjectHasOneIdentityAndCountsItsReferences) {
 
   ComPtr<IUnknown> identity;
   ASSERT_EQ(pages.As(IID_IUnknown, identity), S_OK);
-  const IID* supported[] = {&IID_IUnknown, &IID_IDispatch, &IID_IChartPages, &IID_IConnectionPointContainer,
-                            &IID_IProvideClassInfo, &IID_IProvideClassInfo2, &IID_ISupportErrorInfo};
+  const IID* supported[] = {
+      &IID_IUnknown,          &IID_IDispatch,          &IID_IChartPages,      &IID_IConnectionPointContainer,
+      &IID_IProvideClassInfo, &IID_IProvideClassInfo2, &IID_ISupportErrorInfo};
   for (const IID* iid : supported) {
     ComPtr<IUnknown> asked;
     ASSERT_EQ(pages->QueryInterface(*iid, reinterpret_cast<void**>(asked.put())), S_OK);
@@ -49,8 +50,9 @@ TEST_F(ChartPagesTest, PlainObjectHasOneIdentityAndCountsItsReferences) {
   }
   EXPECT_EQ(RefCount(pages.get()), 2u) << "the queries released what they took";
 
-  const IID* unsupported[] = {&IID_IPersist, &IID_IConnectionPoint, &IID_IMarshal, &IID_IClassFactory,
-                              &DIID__IChartPagesEvents, &IID_ICmnDateRangeDlg, &orv::msxml::kIID_IXMLDOMNode};
+  const IID* unsupported[] = {
+      &IID_IPersist,         &IID_IConnectionPoint,        &IID_IMarshal, &IID_IClassFactory, &DIID__IChartPagesEvents,
+      &IID_ICmnDateRangeDlg, &orv::msxml::kIID_IXMLDOMNode};
   for (const IID* iid : unsupported) {
     void* asked = reinterpret_cast<void*>(1);
     EXPECT_EQ(pages->QueryInterface(*iid, &asked), E_NOINTERFACE);
@@ -134,8 +136,7 @@ TEST_F(ChartPagesTest, DispatchServesNamesAndCallsFromTheTypeLibrary) {
     arg.lVal = page;
     DISPPARAMS params{&arg, nullptr, 1, 0};
     Variant result;
-    ASSERT_EQ(pages->Invoke(2, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, result.put(), nullptr,
-                            nullptr),
+    ASSERT_EQ(pages->Invoke(2, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, result.put(), nullptr, nullptr),
               S_OK);
     EXPECT_EQ(result.get().vt, VT_I4);
     EXPECT_EQ(result.get().lVal, expected) << "TerminatePage(" << page << ")";
@@ -160,9 +161,9 @@ TEST_F(ChartPagesTest, DispatchServesNamesAndCallsFromTheTypeLibrary) {
   DISPPARAMS none{nullptr, nullptr, 0, 0};
   EXPECT_EQ(pages->Invoke(2, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, result.put(), nullptr, nullptr),
             DISP_E_BADPARAMCOUNT);
-  EXPECT_EQ(pages->Invoke(2, IID_IChartPages, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, result.put(), nullptr,
-                          nullptr),
-            DISP_E_UNKNOWNINTERFACE);
+  EXPECT_EQ(
+      pages->Invoke(2, IID_IChartPages, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, result.put(), nullptr, nullptr),
+      DISP_E_UNKNOWNINTERFACE);
 }
 
 TEST_F(ChartPagesTest, ClassInfoNamesTheClassAndItsEvents) {
@@ -312,8 +313,7 @@ TEST_F(ChartPagesTest, FailureInsideDoModalIsTheStatusWithErrorInfo) {
   DISPPARAMS params{&arg, nullptr, 1, 0};
   Variant value;
   EXCEPINFO exception{};
-  EXPECT_EQ(pages->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, value.put(), &exception,
-                          nullptr),
+  EXPECT_EQ(pages->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, value.put(), &exception, nullptr),
             DISP_E_EXCEPTION);
   EXPECT_EQ(exception.scode, E_ACCESSDENIED);
   ASSERT_NE(exception.bstrDescription, nullptr);

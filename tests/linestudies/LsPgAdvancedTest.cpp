@@ -59,10 +59,12 @@ TEST(LsPgAdvanced, LoadDerivesAttachAndSaveWritesBothFlags) {
   }
   CLsPgAdvanced screen;
   screen.Load(PageIn(Sheet("", "<AlwaysVisible>FALSE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch>")));
-  EXPECT_EQ(Saved(screen), "<PropertyPage><AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch></PropertyPage>");
+  EXPECT_EQ(Saved(screen),
+            "<PropertyPage><AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch></PropertyPage>");
   CLsPgAdvanced chart;
   chart.Load(PageIn(Sheet("", "<AlwaysVisible>TRUE</AlwaysVisible>")));
-  EXPECT_EQ(Saved(chart), "<PropertyPage><AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch></PropertyPage>");
+  EXPECT_EQ(Saved(chart),
+            "<PropertyPage><AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch></PropertyPage>");
 }
 
 TEST(LsPgAdvanced, KindComesFromTheSheetTwoLevelsUpAndItsAbsenceRaises) {

@@ -54,8 +54,7 @@ TEST(LsPgBase, ControlPointsReadOverDefaultsAndGoBackInTheHostsOrder) {
 
   // PosLock is written whether or not it came, the points with all six children.
   const std::string expected =
-      "<CTrendline>" +
-      StudyXml(false, {Pt{-1, 12.5, 36001, 0, 0, 2}, Pt{7, 0.0, 45000, 575, 34517, -1}, Pt{}}) +
+      "<CTrendline>" + StudyXml(false, {Pt{-1, 12.5, 36001, 0, 0, 2}, Pt{7, 0.0, 45000, 575, 34517, -1}, Pt{}}) +
       "<LSTrl_Extendpt1>0</LSTrl_Extendpt1><LSTrl_Extendpt2>0</LSTrl_Extendpt2></CTrendline>";
   EXPECT_EQ(Saved(page), expected);
 }
@@ -87,7 +86,8 @@ TEST(LsPgBase, StudySearchGoesOnIntoTheFollowingPagesAndMissingPartsKeepDefaults
   CLsPgDayTrend page;
   XmlNode first = PageNode(
       "<PropertySheet><PropertyPageList><PropertyPage Name=\"LsPgDayTrend\"/>"
-      "<PropertyPage Name=\"Other\">" + StudyXml(true, {Pt{3, 9.0}}) + "</PropertyPage></PropertyPageList></PropertySheet>");
+      "<PropertyPage Name=\"Other\">" +
+      StudyXml(true, {Pt{3, 9.0}}) + "</PropertyPage></PropertyPageList></PropertySheet>");
   EXPECT_TRUE(page.Load(first));
   ASSERT_EQ(page.PointCount(), 1u);
   EXPECT_EQ(page.Point(0).xPos, 3);
@@ -103,10 +103,11 @@ TEST(LsPgBase, StudySearchGoesOnIntoTheFollowingPagesAndMissingPartsKeepDefaults
 
 TEST(LsPgBase, SnapEntriesAreIndexesIntoTheFixedTable) {
   CLsPgDayTrend page;
-  page.Load(PageNode(SheetXml("LsPgDayTrend", "<Extra>" + SnapXml({5, 1, 1, 6}) +
-                                                  "<SnapEntryList><SnapEntry>0</SnapEntry></SnapEntryList></Extra>"
-                                                  "<SnapEntryList><SnapEntry>9</SnapEntry><SnapEntry>-1</SnapEntry>"
-                                                  "<SnapEntry>x</SnapEntry><SnapEntry>0x3</SnapEntry></SnapEntryList>")));
+  page.Load(
+      PageNode(SheetXml("LsPgDayTrend", "<Extra>" + SnapXml({5, 1, 1, 6}) +
+                                            "<SnapEntryList><SnapEntry>0</SnapEntry></SnapEntryList></Extra>"
+                                            "<SnapEntryList><SnapEntry>9</SnapEntry><SnapEntry>-1</SnapEntry>"
+                                            "<SnapEntry>x</SnapEntry><SnapEntry>0x3</SnapEntry></SnapEntryList>")));
   // The first list found counts; duplicates stay.
   const std::vector<SnapEntry> expected = {kSnapTable[5], kSnapTable[1], kSnapTable[1], kSnapTable[6]};
   EXPECT_EQ(page.SnapEntries(), expected);
@@ -115,8 +116,9 @@ TEST(LsPgBase, SnapEntriesAreIndexesIntoTheFixedTable) {
 
   // Indexes outside the table are passed over, any integer form is read.
   CLsPgDayTrend odd;
-  odd.Load(PageNode(SheetXml("LsPgDayTrend", "<SnapEntryList><SnapEntry>9</SnapEntry><SnapEntry>-1</SnapEntry>"
-                                             "<SnapEntry>x</SnapEntry><SnapEntry>0x3</SnapEntry></SnapEntryList>")));
+  odd.Load(PageNode(SheetXml("LsPgDayTrend",
+                             "<SnapEntryList><SnapEntry>9</SnapEntry><SnapEntry>-1</SnapEntry>"
+                             "<SnapEntry>x</SnapEntry><SnapEntry>0x3</SnapEntry></SnapEntryList>")));
   EXPECT_EQ(odd.SnapEntries(), std::vector<SnapEntry>{kSnapTable[3]});
 
   CLsPgDayTrend none;

@@ -92,13 +92,14 @@ TEST(LsTrendlinePages, EachPageSendsBackWhatItReadWithTheUsersChange) {
   const std::string mult = "<Multiplier>2.5 sd</Multiplier>";
 
   const RoundTrip cases[] = {
-      {"LsPgDayTrend", 1317, Trendline("CTrendline", true, {d0, d1}, ext12), Trendline("CTrendline", false, {d0, d1}, ext12),
-       clickLock},
+      {"LsPgDayTrend", 1317, Trendline("CTrendline", true, {d0, d1}, ext12),
+       Trendline("CTrendline", false, {d0, d1}, ext12), clickLock},
       {"LsPgIntraTrend", 1326, Trendline("CTrendline", true, {i0, i1}, ext12),
        Trendline("CTrendline", false, {i0, i1}, ext12), clickLock, "<MaxPos>233</MaxPos>"},
-      {"LsPgDayHorz", 1318, Trendline("CTrendline", true, {d0}, ""), Trendline("CTrendline", false, {d0}, ""), clickLock,
-       "<Mean>50</Mean>"},
-      {"LsPgDayVert", 1319, Trendline("CTrendline", true, {d0}, ""), Trendline("CTrendline", false, {d0}, ""), clickLock},
+      {"LsPgDayHorz", 1318, Trendline("CTrendline", true, {d0}, ""), Trendline("CTrendline", false, {d0}, ""),
+       clickLock, "<Mean>50</Mean>"},
+      {"LsPgDayVert", 1319, Trendline("CTrendline", true, {d0}, ""), Trendline("CTrendline", false, {d0}, ""),
+       clickLock},
       // No value and no lock box: the user moves the bar.
       {"LsPgIntraVert", 1327, Trendline("CTrendline", true, {i0}, ""), Trendline("CTrendline", true, {i0Moved}, ""),
        [](FakeControls& c) { c.ClickSpin(IDC_LS_INTRA_SPIN, 1); }, "<MaxPos>233</MaxPos>"},
@@ -149,15 +150,16 @@ TEST(LsTrendlinePages, DayPagesWithoutChartDataRefuseEveryDateWithTheHolidayMess
   for (const char* name : {"LsPgDayTrend", "LsPgDayVert", "LsPgDayLRC", "LsPgDayVWAP"}) {
     SCOPED_TRACE(name);
     SheetRun run;
-    const auto result = run.Run(SheetXml(name, "<VertexButtons Show=\"Yes\"/>" + StudyXml(false, {Pt{-1, 5, kJune3}})),
-                                nullptr, [](HeadlessSheetRunner& r) {
-                                  FakeControls& c = r.Tab(0);
-                                  EXPECT_FALSE(r.Sheet().PressOk()) << "the page keeps the user";
-                                  ASSERT_EQ(c.MessageBoxes().size(), 1u);
-                                  EXPECT_EQ(c.MessageBoxes()[0].text, "Holiday or other invalid date:\n06/03/24\nPlease Re-enter");
-                                  EXPECT_EQ(c.GetFocus(), IDC_LS_DAY_DATE);
-                                  EXPECT_TRUE(r.Sheet().PressCancel());
-                                });
+    const auto result =
+        run.Run(SheetXml(name, "<VertexButtons Show=\"Yes\"/>" + StudyXml(false, {Pt{-1, 5, kJune3}})), nullptr,
+                [](HeadlessSheetRunner& r) {
+                  FakeControls& c = r.Tab(0);
+                  EXPECT_FALSE(r.Sheet().PressOk()) << "the page keeps the user";
+                  ASSERT_EQ(c.MessageBoxes().size(), 1u);
+                  EXPECT_EQ(c.MessageBoxes()[0].text, "Holiday or other invalid date:\n06/03/24\nPlease Re-enter");
+                  EXPECT_EQ(c.GetFocus(), IDC_LS_DAY_DATE);
+                  EXPECT_TRUE(r.Sheet().PressCancel());
+                });
     EXPECT_EQ(result, 0);
     EXPECT_TRUE(run.owner.events.empty());
   }
@@ -201,7 +203,8 @@ TEST(LsTrendlinePages, ADateTypedInThePickerIsSentLikeOnePickedFromTheCalendar) 
             EXPECT_TRUE(r.Tab(0).IsSheetChanged());
             EXPECT_TRUE(r.Sheet().PressOk());
           });
-  EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml("LsPgDayVert", Trendline("CTrendline", false, {Pt{-1, 5, kJune20}}, ""))});
+  EXPECT_EQ(run.Events(), std::vector<std::string>{
+                              EventXml("LsPgDayVert", Trendline("CTrendline", false, {Pt{-1, 5, kJune20}}, ""))});
 }
 
 // --- snapping ---
@@ -230,11 +233,12 @@ TEST(LsTrendlinePages, SnappingTakesTheBarsPriceOnlyWhenTheChartHasOne) {
     Chart chart = SyntheticChartData::Daily();
     c.prepare(*chart);
     SheetRun run;
-    run.Run(SheetXml("LsPgDayTrend", SnapXml({0, 1, 2, 3, 4, 5}) + StudyXml(false, {Pt{-1, 77.5, kJune3, 0, 0, c.snap}})),
-            chart, [&](HeadlessSheetRunner& r) {
-              EXPECT_EQ(r.Tab(0).GetDlgItemTextA(IDC_LS_DAY_VALUE, 64), c.shown);
-              EXPECT_FALSE(r.Tab(0).IsSheetChanged()) << "snapping at the start is no change of the user's";
-            });
+    run.Run(
+        SheetXml("LsPgDayTrend", SnapXml({0, 1, 2, 3, 4, 5}) + StudyXml(false, {Pt{-1, 77.5, kJune3, 0, 0, c.snap}})),
+        chart, [&](HeadlessSheetRunner& r) {
+          EXPECT_EQ(r.Tab(0).GetDlgItemTextA(IDC_LS_DAY_VALUE, 64), c.shown);
+          EXPECT_FALSE(r.Tab(0).IsSheetChanged()) << "snapping at the start is no change of the user's";
+        });
     if (c.snap < 0) {
       for (const auto& call : chart->Calls()) EXPECT_EQ(call.find("GetValue"), std::string::npos) << call;
     }
@@ -297,7 +301,8 @@ TEST(LsTrendlinePages, SpinMovesTheBarWithinOneAndMaxPosAndShowsItsDateTimeAndTi
             EXPECT_TRUE(r.Sheet().PressOk());
           });
   ASSERT_EQ(run.Events().size(), 1u);
-  EXPECT_NE(run.Events()[0].find(lstest::PtXml(Pt{1, 6.25, intra->Bars()[1].date, 575, 575 * 60 + 17})), std::string::npos)
+  EXPECT_NE(run.Events()[0].find(lstest::PtXml(Pt{1, 6.25, intra->Bars()[1].date, 575, 575 * 60 + 17})),
+            std::string::npos)
       << run.Events()[0];
 
   // MaxPos 0 (or absent) still moves to bar 1.
@@ -326,8 +331,14 @@ TEST(LsTrendlinePages, IntraTimeWithoutSecondsIsMinutesOfTheDay) {
   // A chart that answers "no seconds" gets the time in minutes.
   class MinuteChart : public orv::ChartData {
    public:
-    orv::Status GetValue(std::int32_t, std::int32_t, double& v) override { v = 12; return 0; }
-    orv::Status GetTimeKind(std::int32_t& kind) override { kind = 0; return 0; }
+    orv::Status GetValue(std::int32_t, std::int32_t, double& v) override {
+      v = 12;
+      return 0;
+    }
+    orv::Status GetTimeKind(std::int32_t& kind) override {
+      kind = 0;
+      return 0;
+    }
     orv::Status DateToPos(std::int32_t, std::int32_t, std::int32_t*, std::int32_t&) override { return -1; }
     orv::Status PosToDate(std::int32_t, std::int32_t& d, std::int32_t& t, std::int32_t& s) override {
       d = 45469, t = 615, s = 0;
@@ -365,9 +376,10 @@ TEST(LsTrendlinePages, ChangingVertexKeepsWhatWasTypedForTheOldOne) {
             EXPECT_TRUE(r.Sheet().PressOk());
           });
   ASSERT_EQ(run.Events().size(), 1u);
-  EXPECT_EQ(run.Events()[0],
-            EventXml("LsPgDayTrend", Trendline("CTrendline", false, {Pt{-1, 150.5, kJune3, 0, 0, 0}, Pt{-1, 6, kJune20}},
-                                               "<LSTrl_Extendpt1>0</LSTrl_Extendpt1><LSTrl_Extendpt2>0</LSTrl_Extendpt2>")));
+  EXPECT_EQ(
+      run.Events()[0],
+      EventXml("LsPgDayTrend", Trendline("CTrendline", false, {Pt{-1, 150.5, kJune3, 0, 0, 0}, Pt{-1, 6, kJune20}},
+                                         "<LSTrl_Extendpt1>0</LSTrl_Extendpt1><LSTrl_Extendpt2>0</LSTrl_Extendpt2>")));
 }
 
 TEST(LsTrendlinePages, VertexButtonsShowOnlyWhenTheHostAsksAndNeverOnHorizontalAndVerticalLines) {
@@ -447,8 +459,8 @@ TEST(LsTrendlinePages, ExtendBoxesHoldZeroToTwoAndCountAsChanges) {
               EXPECT_TRUE(r.Sheet().PressOk());
             });
     ASSERT_EQ(run.Events().size(), 1u);
-    const std::string sent = orv::StrFormat("<LSTrl_Extendpt1>%d</LSTrl_Extendpt1><LSTrl_Extendpt2>2</LSTrl_Extendpt2>",
-                                            c.after.back());
+    const std::string sent =
+        orv::StrFormat("<LSTrl_Extendpt1>%d</LSTrl_Extendpt1><LSTrl_Extendpt2>2</LSTrl_Extendpt2>", c.after.back());
     EXPECT_NE(run.Events()[0].find(sent), std::string::npos) << run.Events()[0];
   }
 }
@@ -462,9 +474,9 @@ TEST(LsTrendlinePages, AnExtendOfTwoGoesBackAsTwoWhenTheUserChangesSomethingElse
             r.Tab(0).Click(IDC_LS_POS_LOCK);
             EXPECT_TRUE(r.Sheet().PressOk());
           });
-  EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
-                              "LsPgDayLRC", Trendline("CLinRegChan", false, {Pt{-1, 5, kJune3}},
-                                                      extends + "<Multiplier>2</Multiplier>"))});
+  EXPECT_EQ(run.Events(),
+            std::vector<std::string>{EventXml("LsPgDayLRC", Trendline("CLinRegChan", false, {Pt{-1, 5, kJune3}},
+                                                                      extends + "<Multiplier>2</Multiplier>"))});
 }
 
 TEST(LsTrendlinePages, HorizontalLineOnAvgCloseStandsAtTheMean) {
@@ -490,13 +502,14 @@ TEST(LsTrendlinePages, HorizontalLineOnAvgCloseStandsAtTheMean) {
                EXPECT_TRUE(r.Sheet().PressOk());
              });
   EXPECT_EQ(chosen.Events(),
-            std::vector<std::string>{EventXml("LsPgDayHorz", Trendline("CTrendline", false, {Pt{-1, 42.5, kJune3, 0, 0, 256}}, ""))});
+            std::vector<std::string>{
+                EventXml("LsPgDayHorz", Trendline("CTrendline", false, {Pt{-1, 42.5, kJune3, 0, 0, 256}}, ""))});
 }
 
 TEST(LsTrendlinePages, ChannelMultiplierIsTextAndTheDayChannelsValueIsReadOnly) {
   SheetRun run;
-  run.Run(SheetXml("LsPgDayLRC", "<CLinRegChan>" + StudyXml(false, {Pt{-1, 5, kJune3}}) +
-                                     "<Multiplier>2</Multiplier></CLinRegChan>"),
+  run.Run(SheetXml("LsPgDayLRC",
+                   "<CLinRegChan>" + StudyXml(false, {Pt{-1, 5, kJune3}}) + "<Multiplier>2</Multiplier></CLinRegChan>"),
           SyntheticChartData::Daily(), [](HeadlessSheetRunner& r) {
             FakeControls& c = r.Tab(0);
             EXPECT_FALSE(c.IsDlgItemEnabled(IDC_LS_DAY_VALUE));
@@ -626,19 +639,20 @@ TEST(LsTrendlinePages, ABadValueOnADayPageBeepsAndKeepsThePageWithoutAMessage) {
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string(c.name) + " \"" + c.typed + "\"");
     SheetRun run;
-    run.Run(SheetXml(c.name, "<VertexButtons Show=\"Yes\"/>" + StudyXml(false, {Pt{-1, 5, kJune3}, Pt{-1, 6, kJune20}})),
-            SyntheticChartData::Daily(), [&](HeadlessSheetRunner& r) {
-              FakeControls& tab = r.Tab(0);
-              tab.TypeText(IDC_LS_DAY_VALUE, c.typed);
-              tab.SetFocus(IDC_LS_POS_LOCK);
-              EXPECT_FALSE(r.Sheet().PressOk()) << "the page keeps the user";
-              EXPECT_EQ(tab.Beeps(), std::vector<unsigned>{orv::kBeepSimple});
-              EXPECT_EQ(tab.GetFocus(), IDC_LS_DAY_VALUE);
-              EXPECT_TRUE(tab.MessageBoxes().empty());
-              EXPECT_TRUE(r.Sheet().IsRunning());
-              tab.TypeText(IDC_LS_DAY_VALUE, "12.5");
-              EXPECT_TRUE(r.Sheet().PressOk());
-            });
+    run.Run(
+        SheetXml(c.name, "<VertexButtons Show=\"Yes\"/>" + StudyXml(false, {Pt{-1, 5, kJune3}, Pt{-1, 6, kJune20}})),
+        SyntheticChartData::Daily(), [&](HeadlessSheetRunner& r) {
+          FakeControls& tab = r.Tab(0);
+          tab.TypeText(IDC_LS_DAY_VALUE, c.typed);
+          tab.SetFocus(IDC_LS_POS_LOCK);
+          EXPECT_FALSE(r.Sheet().PressOk()) << "the page keeps the user";
+          EXPECT_EQ(tab.Beeps(), std::vector<unsigned>{orv::kBeepSimple});
+          EXPECT_EQ(tab.GetFocus(), IDC_LS_DAY_VALUE);
+          EXPECT_TRUE(tab.MessageBoxes().empty());
+          EXPECT_TRUE(r.Sheet().IsRunning());
+          tab.TypeText(IDC_LS_DAY_VALUE, "12.5");
+          EXPECT_TRUE(r.Sheet().PressOk());
+        });
     ASSERT_EQ(run.Events().size(), 1u);
     EXPECT_NE(run.Events()[0].find("<XY_yValue>12.500000</XY_yValue>"), std::string::npos) << run.Events()[0];
   }

@@ -64,10 +64,13 @@ struct SheetRun {
 };
 
 std::string Trend(bool lock, const std::vector<Pt>& points) {
-  return "<CTrendline>" + StudyXml(lock, points) + "<LSTrl_Extendpt1>0</LSTrl_Extendpt1><LSTrl_Extendpt2>0</LSTrl_Extendpt2></CTrendline>";
+  return "<CTrendline>" + StudyXml(lock, points) +
+         "<LSTrl_Extendpt1>0</LSTrl_Extendpt1><LSTrl_Extendpt2>0</LSTrl_Extendpt2></CTrendline>";
 }
 
-std::string Horz(bool lock, const std::vector<Pt>& points) { return "<CTrendline>" + StudyXml(lock, points) + "</CTrendline>"; }
+std::string Horz(bool lock, const std::vector<Pt>& points) {
+  return "<CTrendline>" + StudyXml(lock, points) + "</CTrendline>";
+}
 
 std::string Advanced(bool alwaysVisible) {
   return std::string("<AlwaysVisible>") + (alwaysVisible ? "TRUE" : "FALSE") +
@@ -149,9 +152,10 @@ TEST(LsPsTabs, ASecondLoadAddsItsPointsAndSnapChoicesToTheFirsts) {
   EXPECT_TRUE(page->HasPosLock()) << "the first element's lock counts";
   // The second element's lock and extends are read over the first's; Extendpt1 it lacks.
   EXPECT_EQ(run.Events(),
-            std::vector<std::string>{EventXml(
-                "LsPgDayTrend", "<CTrendline>" + StudyXml(false, {a, b, c, d}) +
-                                    "<LSTrl_Extendpt1>1</LSTrl_Extendpt1><LSTrl_Extendpt2>1</LSTrl_Extendpt2></CTrendline>")});
+            std::vector<std::string>{
+                EventXml("LsPgDayTrend",
+                         "<CTrendline>" + StudyXml(false, {a, b, c, d}) +
+                             "<LSTrl_Extendpt1>1</LSTrl_Extendpt1><LSTrl_Extendpt2>1</LSTrl_Extendpt2></CTrendline>")});
 }
 
 // Both tabs are views of the one object: each window works on its own controls, and a window
@@ -181,8 +185,8 @@ TEST(LsPsTabs, APageInTwoTabsKeepsWhatEachTabEntered) {
             EXPECT_EQ(second.GetDlgItemTextA(IDC_LS_DAY_VALUE, 32), "9");
             EXPECT_TRUE(r.Sheet().PressOk());
           });
-  EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
-                              "LsPgDayTrend", Trend(false, {Pt{-1, 8, kJune3}, Pt{-1, 10, kJune20}}))});
+  EXPECT_EQ(run.Events(),
+            std::vector<std::string>{EventXml("LsPgDayTrend", Trend(false, {Pt{-1, 8, kJune3}, Pt{-1, 10, kJune20}}))});
 }
 
 TEST(LsPsTabs, TheAdvancedPageInTwoTabsSendsWhatTheLastShownTabHolds) {
@@ -199,9 +203,10 @@ TEST(LsPsTabs, TheAdvancedPageInTwoTabsSendsWhatTheLastShownTabHolds) {
             EXPECT_EQ(r.Tab(1).IsDlgButtonChecked(IDC_LS_ATTACH_SCREEN), orv::kBstChecked);
             EXPECT_TRUE(r.Sheet().PressOk());
           });
-  EXPECT_EQ(run.Events(), (std::vector<std::string>{
-                              EventXml("LsPgAdvanced", Advanced(true)),
-                              EventXml("LsPgAdvanced", "<AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch>")}));
+  EXPECT_EQ(run.Events(),
+            (std::vector<std::string>{
+                EventXml("LsPgAdvanced", Advanced(true)),
+                EventXml("LsPgAdvanced", "<AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch>")}));
 }
 
 // --- the tab in front of a page object ---

@@ -50,11 +50,11 @@ constexpr const char* kAdvancedSheet =
 TEST(LsPsLoad, TitleAndTabsInOrderUnknownAndUnbuiltNamesPassedOver) {
   FakeSheetOwner owner;
   Sheet sheet(&owner);
-  sheet.InitFromXml(SheetNode(
-      "<PropertySheet Name=\"LSPs\" Title=\"Fibonacci Retracement\" Kind=\"6\"><PropertyPageList>"
-      "<PropertyPage Name=\"NoSuchPage\"/><PropertyPage Name=\"lspgadvanced\"/>"
-      "<PropertyPage Name=\"LsPgAdvanced\"><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch></PropertyPage>"
-      "<PropertyPage Name=\"LsPgText\"/></PropertyPageList></PropertySheet>"));
+  sheet.InitFromXml(
+      SheetNode("<PropertySheet Name=\"LSPs\" Title=\"Fibonacci Retracement\" Kind=\"6\"><PropertyPageList>"
+                "<PropertyPage Name=\"NoSuchPage\"/><PropertyPage Name=\"lspgadvanced\"/>"
+                "<PropertyPage Name=\"LsPgAdvanced\"><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch></PropertyPage>"
+                "<PropertyPage Name=\"LsPgText\"/></PropertyPageList></PropertySheet>"));
   EXPECT_EQ(sheet.Title(), "Fibonacci Retracement");
   EXPECT_EQ(sheet.TabNames(), std::vector<std::string>{"LsPgAdvanced"});
   auto* page = dynamic_cast<CLsPgAdvanced*>(sheet.PageOf(1352));
@@ -89,11 +89,12 @@ TEST(LsPsLoad, PageNamedTwiceIsOneObjectInTwoTabsLoadedTwice) {
 }
 
 TEST(LsPsLoad, MissingListOrPagesOrTitleGiveEmptySheetAndCaption) {
-  for (const char* text : {"<PropertySheet Name=\"LSPs\" Title=\"T\"><PropertyPage Name=\"LsPgAdvanced\"/></PropertySheet>",
-                           "<PropertySheet Name=\"LSPs\" Title=\"T\"><PropertyPageList/></PropertySheet>",
-                           // A page after the list is not below it.
-                           "<PropertySheet Name=\"LSPs\" Title=\"T\"><PropertyPageList/>"
-                           "<PropertyPage Name=\"LsPgAdvanced\"/></PropertySheet>"}) {
+  for (const char* text :
+       {"<PropertySheet Name=\"LSPs\" Title=\"T\"><PropertyPage Name=\"LsPgAdvanced\"/></PropertySheet>",
+        "<PropertySheet Name=\"LSPs\" Title=\"T\"><PropertyPageList/></PropertySheet>",
+        // A page after the list is not below it.
+        "<PropertySheet Name=\"LSPs\" Title=\"T\"><PropertyPageList/>"
+        "<PropertyPage Name=\"LsPgAdvanced\"/></PropertySheet>"}) {
     FakeSheetOwner owner;
     Sheet sheet(&owner);
     sheet.InitFromXml(SheetNode(text));
@@ -102,9 +103,9 @@ TEST(LsPsLoad, MissingListOrPagesOrTitleGiveEmptySheetAndCaption) {
   }
   FakeSheetOwner owner;
   Sheet sheet(&owner);
-  sheet.InitFromXml(SheetNode(
-      "<PropertySheet Name=\"LSPs\" Kind=\"1\"><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\"/>"
-      "</PropertyPageList></PropertySheet>"));
+  sheet.InitFromXml(
+      SheetNode("<PropertySheet Name=\"LSPs\" Kind=\"1\"><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\"/>"
+                "</PropertyPageList></PropertySheet>"));
   HeadlessSheetRunner runner = AdvancedRunner();
   sheet.DoModal(runner);
   EXPECT_TRUE(runner.Initialized());
@@ -193,8 +194,7 @@ TEST(LsPsApply, UnknownIdEmptySlotOrCleanPageRaiseNothingAndAnswerZero) {
   EXPECT_EQ(sheet.OnPageApply(1333), 0) << "page not built";
   EXPECT_TRUE(owner.events.empty());
   // The document is replaced all the same, by one holding the bare list.
-  EXPECT_EQ(Compact(XmlGetXml(sheet.Document())),
-            "<PropertySheet Name=\"LSPs\"><PropertyPageList/></PropertySheet>");
+  EXPECT_EQ(Compact(XmlGetXml(sheet.Document())), "<PropertySheet Name=\"LSPs\"><PropertyPageList/></PropertySheet>");
 
   Sheet ownerless(nullptr);
   ownerless.InitFromXml(SheetNode(kAdvancedSheet));

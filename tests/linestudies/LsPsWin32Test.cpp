@@ -79,7 +79,8 @@ XmlNode SheetNode(const char* kind, const char* title) {
   XmlNode document = XmlCreateDocument();
   std::string text = "<PropertySheet Name=\"LSPs\"";
   if (title) text += std::string(" Title=\"") + title + "\"";
-  text += std::string(" Kind=\"") + kind + "\"><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\">"
+  text += std::string(" Kind=\"") + kind +
+          "\"><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\">"
           "<AlwaysVisible>FALSE</AlwaysVisible></PropertyPage></PropertyPageList></PropertySheet>";
   EXPECT_TRUE(XmlLoadString(document, text));
   return XmlFindNode(document, "PropertySheet", true);
@@ -214,11 +215,12 @@ int Checked(HWND page, int id) { return static_cast<int>(::IsDlgButtonChecked(pa
 TEST_F(LsPsWin32, ExtendsOfTwoComeBackAsTwoAndTheMultiplierBoxHoldsWhatIsSent) {
   const std::string multiplier = "1.5 standard deviations of the fitted line";
   Sheet sheet(&owner);
-  sheet.InitFromXml(LoadSheet(
-      "<PropertySheet Name=\"LSPs\"><PropertyPageList><PropertyPage Name=\"LsPgIntraLRC\"><MaxPos>50</MaxPos>"
-      "<CLinRegChan>" + lstest::StudyXml(true, {lstest::Pt{4, 5}}) +
-      "<LSTrl_Extendpt1>2</LSTrl_Extendpt1><LSTrl_Extendpt2>1</LSTrl_Extendpt2><Multiplier>" + multiplier +
-      "</Multiplier></CLinRegChan></PropertyPage></PropertyPageList></PropertySheet>"));
+  sheet.InitFromXml(
+      LoadSheet("<PropertySheet Name=\"LSPs\"><PropertyPageList><PropertyPage Name=\"LsPgIntraLRC\"><MaxPos>50</MaxPos>"
+                "<CLinRegChan>" +
+                lstest::StudyXml(true, {lstest::Pt{4, 5}}) +
+                "<LSTrl_Extendpt1>2</LSTrl_Extendpt1><LSTrl_Extendpt2>1</LSTrl_Extendpt2><Multiplier>" + multiplier +
+                "</Multiplier></CLinRegChan></PropertyPage></PropertyPageList></PropertySheet>"));
   std::vector<int> shown, clicked;
   std::string shownMultiplier, typedMultiplier;
   User user({[&](HWND sheetWindow, HWND page) {
@@ -272,7 +274,8 @@ TEST_F(LsPsWin32, APageInTwoTabsKeepsWhatEachTabEntered) {
   Sheet sheet(&owner);
   sheet.InitFromXml(LoadSheet(
       "<PropertySheet Name=\"LSPs\"><PropertyPageList><PropertyPage Name=\"LsPgIntraTrend\"><MaxPos>50</MaxPos>"
-      "<VertexButtons Show=\"Yes\"/><CTrendline>" + lstest::StudyXml(false, {lstest::Pt{4, 5}, lstest::Pt{9, 6}}) +
+      "<VertexButtons Show=\"Yes\"/><CTrendline>" +
+      lstest::StudyXml(false, {lstest::Pt{4, 5}, lstest::Pt{9, 6}}) +
       "</CTrendline></PropertyPage><PropertyPage Name=\"LsPgIntraTrend\"><VertexButtons Show=\"Yes\"/></PropertyPage>"
       "</PropertyPageList></PropertySheet>"));
   HWND firstPage = nullptr, secondPage = nullptr;

@@ -47,7 +47,8 @@ TEST(LsTemplates, ControlsFitTheirDialogAndGroupsAndDontOverlap) {
   for (const orv::TemplateDialog& dialog : orv::templates::kDialogs) {
     SCOPED_TRACE(dialog.id);
     std::vector<const TemplateControl*> boxes, others;
-    for (const TemplateControl& c : dialog.controls) (c.kind == FakeControlKind::GroupBox ? boxes : others).push_back(&c);
+    for (const TemplateControl& c : dialog.controls)
+      (c.kind == FakeControlKind::GroupBox ? boxes : others).push_back(&c);
     for (const TemplateControl& c : dialog.controls) {
       const FakeRect r = Closed(c);
       EXPECT_GE(r.left, 0) << c.line;

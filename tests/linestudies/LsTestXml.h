@@ -57,8 +57,6 @@ inline XmlNode SheetNode(const std::string& text) {
   return XmlFindNode(document, "PropertySheet", true);
 }
 
-inline XmlNode PageNode(const std::string& text) {
-  return XmlFindNode(SheetNode(text), "PropertyPage", true);
-}
+inline XmlNode PageNode(const std::string& text) { return XmlFindNode(SheetNode(text), "PropertyPage", true); }
 
 }  // namespace lstest

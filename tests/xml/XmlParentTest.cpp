@@ -19,8 +19,9 @@ std::string NameOf(const XmlNode& node) {
 }
 
 TEST(XmlGetParent, ClimbsFromLeafThroughElementsToTheDocumentAndStops) {
-  XmlNode document = Load("<PropertySheet Name=\"LSPs\"><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\">"
-                          "<AlwaysVisible>TRUE</AlwaysVisible></PropertyPage></PropertyPageList></PropertySheet>");
+  XmlNode document = Load(
+      "<PropertySheet Name=\"LSPs\"><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\">"
+      "<AlwaysVisible>TRUE</AlwaysVisible></PropertyPage></PropertyPageList></PropertySheet>");
   XmlNode page = XmlFindNode(document, "PropertyPage", true);
   ASSERT_TRUE(page);
   XmlNode list = XmlGetParent(page);

@@ -81,7 +81,8 @@ TEST(XmlFind, ChildrenInOrder) {
   EXPECT_FALSE(XmlNextSibling(XmlNode()));
   EXPECT_FALSE(XmlNextSibling(XmlFindNode(document, "L", true))) << "the root has no sibling";
   std::string unused;
-  EXPECT_FALSE(XmlNextSibling(XmlGetAttr(XmlFindNode(document, "I", true), "n", unused))) << "attributes are no children";
+  EXPECT_FALSE(XmlNextSibling(XmlGetAttr(XmlFindNode(document, "I", true), "n", unused)))
+      << "attributes are no children";
 }
 
 TEST(XmlRead, AttributesAssignOnlyWhenPresent) {
@@ -303,7 +304,8 @@ TEST(XmlHandles, OutliveTheirDocumentAndItsReloads) {
 
 TEST(XmlGetXml, ShowsEveryKindOfNode) {
   XmlNode document = Load("<?xml version=\"1.0\"?><!-- top --><A x=\"1\"><?pi data?><B/>t<![CDATA[c]]><!--c--></A>");
-  EXPECT_EQ(Markup(document), "<?xml version=\"1.0\"?><!-- top --><A x=\"1\"><?pi data?><B/>t<![CDATA[c]]><!--c--></A>");
+  EXPECT_EQ(Markup(document),
+            "<?xml version=\"1.0\"?><!-- top --><A x=\"1\"><?pi data?><B/>t<![CDATA[c]]><!--c--></A>");
   std::string unused;
   XmlNode a = XmlFindNode(document, "A", true);
   EXPECT_EQ(XmlGetXml(XmlGetAttr(a, "x", unused)), "x=\"1\"");

@@ -16,12 +16,19 @@ std::string Describe(int id) { return "control " + std::to_string(id); }
 
 int FirstMessageBoxButton(unsigned flags) {
   switch (flags & 0xF) {
-    case 1: return 1;   // OK
-    case 2: return 3;   // Abort
-    case 3: case 4: return 6;  // Yes
-    case 5: return 4;   // Retry
-    case 6: return 2;   // Cancel
-    default: return 1;  // OK
+    case 1:
+      return 1;  // OK
+    case 2:
+      return 3;  // Abort
+    case 3:
+    case 4:
+      return 6;  // Yes
+    case 5:
+      return 4;  // Retry
+    case 6:
+      return 2;  // Cancel
+    default:
+      return 1;  // OK
   }
 }
 
@@ -116,7 +123,8 @@ void FakeControls::Click(int id) {
     case FakeControlKind::RadioButton:
       if (!control.automatic) break;
       for (auto& [otherId, other] : controls_) {
-        if (other.kind == FakeControlKind::RadioButton && other.radioGroup == control.radioGroup) other.check = kBstUnchecked;
+        if (other.kind == FakeControlKind::RadioButton && other.radioGroup == control.radioGroup)
+          other.check = kBstUnchecked;
       }
       control.check = kBstChecked;
       break;
@@ -129,30 +137,36 @@ void FakeControls::Click(int id) {
 
 void FakeControls::SelectComboItem(int id, int index) {
   FakeControl& control = Reachable(id, "select");
-  if (control.kind != FakeControlKind::ComboBox) throw std::logic_error("cannot select: " + Describe(id) + " is no combo box");
-  if (!ValidIndex(index, control.items.size())) throw std::logic_error("cannot select: no item " + std::to_string(index));
+  if (control.kind != FakeControlKind::ComboBox)
+    throw std::logic_error("cannot select: " + Describe(id) + " is no combo box");
+  if (!ValidIndex(index, control.items.size()))
+    throw std::logic_error("cannot select: no item " + std::to_string(index));
   control.curSel = index;
   Command(id, kCbnSelChange);
 }
 
 void FakeControls::SelectListItem(int id, int index) {
   FakeControl& control = Reachable(id, "select");
-  if (control.kind != FakeControlKind::ListBox) throw std::logic_error("cannot select: " + Describe(id) + " is no list box");
-  if (!ValidIndex(index, control.items.size())) throw std::logic_error("cannot select: no item " + std::to_string(index));
+  if (control.kind != FakeControlKind::ListBox)
+    throw std::logic_error("cannot select: " + Describe(id) + " is no list box");
+  if (!ValidIndex(index, control.items.size()))
+    throw std::logic_error("cannot select: no item " + std::to_string(index));
   control.curSel = index;
   Command(id, kLbnSelChange);
 }
 
 void FakeControls::ClickListViewCheck(int id, int item) {
   FakeControl& control = Reachable(id, "check");
-  if (control.kind != FakeControlKind::ListView) throw std::logic_error("cannot check: " + Describe(id) + " is no list view");
+  if (control.kind != FakeControlKind::ListView)
+    throw std::logic_error("cannot check: " + Describe(id) + " is no list view");
   if (!ValidIndex(item, control.rows.size())) throw std::logic_error("cannot check: no item " + std::to_string(item));
   ListViewSetCheckState(id, item, !control.rows[static_cast<std::size_t>(item)].checked);
 }
 
 void FakeControls::PickDate(int id, std::optional<DateTime> value) {
   FakeControl& control = Reachable(id, "pick a date");
-  if (control.kind != FakeControlKind::DatePicker) throw std::logic_error("cannot pick: " + Describe(id) + " is no date picker");
+  if (control.kind != FakeControlKind::DatePicker)
+    throw std::logic_error("cannot pick: " + Describe(id) + " is no date picker");
   control.date = value;
   if (page_) {
     std::intptr_t result = 0;
@@ -170,7 +184,8 @@ void FakeControls::PickDateFromCalendar(int id, DateTime value) {
 
 void FakeControls::ClickSpin(int id, int delta) {
   FakeControl& control = Reachable(id, "spin");
-  if (control.kind != FakeControlKind::UpDown) throw std::logic_error("cannot spin: " + Describe(id) + " is no up-down");
+  if (control.kind != FakeControlKind::UpDown)
+    throw std::logic_error("cannot spin: " + Describe(id) + " is no up-down");
   SetFocus(id);
   std::intptr_t result = 0;
   if (page_) {

@@ -26,7 +26,17 @@ class Page;
 
 // A check box holds the indeterminate state too when it is threeState (AUTO3STATE).
 enum class FakeControlKind {
-  Static, Edit, PushButton, CheckBox, RadioButton, ComboBox, ListBox, ListView, UpDown, DatePicker, GroupBox
+  Static,
+  Edit,
+  PushButton,
+  CheckBox,
+  RadioButton,
+  ComboBox,
+  ListBox,
+  ListView,
+  UpDown,
+  DatePicker,
+  GroupBox
 };
 
 struct FakeRect {
@@ -50,7 +60,7 @@ struct FakeControl {
   std::string text;
   std::size_t textLimit = 0;  // edits: what the user may enter at most (EM_LIMITTEXT); 0: no limit
   int check = kBstUnchecked;
-  int radioGroup = 0;  // radio buttons with the same group exclude each other
+  int radioGroup = 0;       // radio buttons with the same group exclude each other
   bool threeState = false;  // a check box that goes checked, indeterminate, unchecked
   bool automatic = true;    // a check box or radio button that checks itself when clicked
   bool readOnly = false;    // an edit the user can't type into
@@ -93,9 +103,9 @@ class FakeControls final : public Controls {
   // Push button, check box (toggles; a three-state box goes unchecked, checked, indeterminate
   // and round again, as the platform's does), radio; BN_CLICKED.
   void Click(int id);
-  void SelectComboItem(int id, int index);           // CBN_SELCHANGE
-  void SelectListItem(int id, int index);            // LBN_SELCHANGE
-  void ClickListViewCheck(int id, int item);         // toggles the check; LVN_ITEMCHANGED
+  void SelectComboItem(int id, int index);               // CBN_SELCHANGE
+  void SelectListItem(int id, int index);                // LBN_SELCHANGE
+  void ClickListViewCheck(int id, int item);             // toggles the check; LVN_ITEMCHANGED
   void PickDate(int id, std::optional<DateTime> value);  // DTN_DATETIMECHANGE (typed in the field)
   // Picks a day in the drop-down calendar: DTN_DATETIMECHANGE, then DTN_CLOSEUP.
   void PickDateFromCalendar(int id, DateTime value);

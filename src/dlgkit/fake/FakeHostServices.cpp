@@ -5,11 +5,16 @@ namespace {
 
 const char* CallName(SettingsCall call) {
   switch (call) {
-    case SettingsCall::GetValue: return "GetValue";
-    case SettingsCall::SetValue: return "SetValue";
-    case SettingsCall::GetTheme: return "GetTheme";
-    case SettingsCall::GetDocumentValue: return "GetDocumentValue";
-    case SettingsCall::GetDocumentNode: return "GetDocumentNode";
+    case SettingsCall::GetValue:
+      return "GetValue";
+    case SettingsCall::SetValue:
+      return "SetValue";
+    case SettingsCall::GetTheme:
+      return "GetTheme";
+    case SettingsCall::GetDocumentValue:
+      return "GetDocumentValue";
+    case SettingsCall::GetDocumentNode:
+      return "GetDocumentNode";
   }
   return "?";
 }
@@ -22,8 +27,7 @@ class FakeSettings final : public SettingsService {
   FakeSettings(FakeHostServices& owner, Expectation expectation)
       : owner_(owner), expectation_(std::move(expectation)) {}
 
-  void GetValue(const std::string& section, const std::string& key, std::string& value,
-                std::int32_t& result) override {
+  void GetValue(const std::string& section, const std::string& key, std::string& value, std::int32_t& result) override {
     const std::string call = "GetValue(" + Quoted(section) + ", " + Quoted(key) + ")";
     Begin(SettingsCall::GetValue, call, section == expectation_.first && key == expectation_.second);
     value = expectation_.text;
@@ -31,8 +35,8 @@ class FakeSettings final : public SettingsService {
   }
   void SetValue(const std::string& section, const std::string& key, std::int32_t value, std::int32_t kind,
                 std::int32_t& result) override {
-    const std::string call = "SetValue(" + Quoted(section) + ", " + Quoted(key) + ", " + std::to_string(value) +
-                             ", " + std::to_string(kind) + ")";
+    const std::string call = "SetValue(" + Quoted(section) + ", " + Quoted(key) + ", " + std::to_string(value) + ", " +
+                             std::to_string(kind) + ")";
     Begin(SettingsCall::SetValue, call,
           section == expectation_.first && key == expectation_.second && value == expectation_.value &&
               kind == expectation_.kind);
@@ -45,8 +49,8 @@ class FakeSettings final : public SettingsService {
   }
   void GetDocumentValue(const std::string& document, const std::string& xpath, const std::string& attribute,
                         std::int32_t kind, std::string& value, std::int32_t& result) override {
-    const std::string call = "GetDocumentValue(" + Quoted(document) + ", " + Quoted(xpath) + ", " +
-                             Quoted(attribute) + ", " + std::to_string(kind) + ")";
+    const std::string call = "GetDocumentValue(" + Quoted(document) + ", " + Quoted(xpath) + ", " + Quoted(attribute) +
+                             ", " + std::to_string(kind) + ")";
     Begin(SettingsCall::GetDocumentValue, call,
           document == expectation_.first && xpath == expectation_.second && attribute == expectation_.third &&
               kind == expectation_.kind);
@@ -85,14 +89,12 @@ class FakeHelp final : public HelpService {
  public:
   FakeHelp(FakeHostServices& owner, FakeHostServices::HelpExpectation expectation)
       : owner_(owner), expectation_(std::move(expectation)) {}
-  void ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags,
-                std::int32_t& result) override {
+  void ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags, std::int32_t& result) override {
     if (called_) owner_.Unexpected("a second ShowHelp on one help service");
     if (book != expectation_.book || topicId != expectation_.topicId || flags != expectation_.flags)
-      owner_.Unexpected("ShowHelp(" + book + ", " + std::to_string(topicId) + ", " +
-                        std::to_string(flags) + "), expected ShowHelp(" + expectation_.book + ", " +
-                        std::to_string(expectation_.topicId) + ", " +
-                        std::to_string(expectation_.flags) + ")");
+      owner_.Unexpected("ShowHelp(" + book + ", " + std::to_string(topicId) + ", " + std::to_string(flags) +
+                        "), expected ShowHelp(" + expectation_.book + ", " + std::to_string(expectation_.topicId) +
+                        ", " + std::to_string(expectation_.flags) + ")");
     called_ = true;
     owner_.CallDone();
     result = expectation_.result;
@@ -155,8 +157,7 @@ void FakeHostServices::ExpectDocumentValue(std::string document, std::string xpa
   expectation.result = result;
   settings_.push_back(std::move(expectation));
 }
-void FakeHostServices::ExpectDocumentNode(std::string document, std::string xpath, XmlNode node,
-                                          std::int32_t result) {
+void FakeHostServices::ExpectDocumentNode(std::string document, std::string xpath, XmlNode node, std::int32_t result) {
   SettingsExpectation expectation;
   expectation.call = SettingsCall::GetDocumentNode;
   expectation.first = std::move(document);
@@ -173,8 +174,7 @@ void FakeHostServices::ExpectSettingsFailure(SettingsCall call, Status status) {
   settings_.push_back(std::move(expectation));
 }
 void FakeHostServices::ExpectNoHelpService() { help_.push_back({}); }
-void FakeHostServices::ExpectHelp(std::string book, std::int32_t topicId, std::int32_t flags,
-                                  std::int32_t result) {
+void FakeHostServices::ExpectHelp(std::string book, std::int32_t topicId, std::int32_t flags, std::int32_t result) {
   help_.push_back({true, std::move(book), topicId, flags, result});
 }
 

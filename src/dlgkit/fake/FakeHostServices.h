@@ -26,15 +26,15 @@ class FakeHostServices final : public HostServices {
  public:
   // Settings service creations, consumed in order.
   void ExpectNoSettingsService();
-  void ExpectTheme(const ThemeColors& theme);      // GetTheme fills it, result 0
-  void ExpectNoTheme(std::int32_t result = 1);     // GetTheme answers this non-zero result
-  void ExpectThemeFailure(Status status);          // GetTheme fails with this status
+  void ExpectTheme(const ThemeColors& theme);   // GetTheme fills it, result 0
+  void ExpectNoTheme(std::int32_t result = 1);  // GetTheme answers this non-zero result
+  void ExpectThemeFailure(Status status);       // GetTheme fails with this status
   void ExpectValue(std::string section, std::string key, std::string value, std::int32_t result = 0);
   void ExpectSetValue(std::string section, std::string key, std::int32_t value, std::int32_t kind,
                       std::int32_t result = 0);
   // GetDocumentValue with these arguments answers `value` and `result`.
-  void ExpectDocumentValue(std::string document, std::string xpath, std::string attribute,
-                           std::int32_t kind, std::string value, std::int32_t result = 0);
+  void ExpectDocumentValue(std::string document, std::string xpath, std::string attribute, std::int32_t kind,
+                           std::string value, std::int32_t result = 0);
   // GetDocumentNode with these arguments answers `node` and `result`.
   void ExpectDocumentNode(std::string document, std::string xpath, XmlNode node, std::int32_t result = 0);
   // The one call of the next service is `call` (any arguments) and fails with `status`.

@@ -41,8 +41,7 @@ FakeWindowTree::Node* FakeWindowTree::Find(WindowHandle window) const {
 }
 
 bool FakeWindowTree::IsWindow(WindowHandle window) const {
-  return std::any_of(nodes_.begin(), nodes_.end(),
-                     [&](auto& n) { return n.get() == window && n->alive; });
+  return std::any_of(nodes_.begin(), nodes_.end(), [&](auto& n) { return n.get() == window && n->alive; });
 }
 
 WindowHandle FakeWindowTree::CreateDialogWindow(WindowRect client) {
@@ -53,8 +52,8 @@ WindowHandle FakeWindowTree::CreateDialogWindow(WindowRect client) {
   return nodes_.back().get();
 }
 
-WindowHandle FakeWindowTree::AddChild(WindowHandle parent, const std::string& className,
-                                      std::int32_t style, int id, const std::string& text) {
+WindowHandle FakeWindowTree::AddChild(WindowHandle parent, const std::string& className, std::int32_t style, int id,
+                                      const std::string& text) {
   Node* parentNode = Find(parent);
   if (!parentNode) return nullptr;
   auto node = std::make_unique<Node>();
@@ -151,8 +150,7 @@ static bool EqualsNoCase(const std::string& a, const char* b) {
   size_t n = std::strlen(b);
   if (a.size() != n) return false;
   for (size_t i = 0; i < n; ++i)
-    if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i])))
-      return false;
+    if (std::tolower(static_cast<unsigned char>(a[i])) != std::tolower(static_cast<unsigned char>(b[i]))) return false;
   return true;
 }
 
@@ -194,13 +192,12 @@ int FakeWindowTree::GetDlgCtrlID(WindowHandle window) {
   return node ? node->id : 0;
 }
 
-std::intptr_t FakeWindowTree::SendMessageA(WindowHandle window, unsigned message,
-                                           std::uintptr_t wParam, std::intptr_t lParam) {
+std::intptr_t FakeWindowTree::SendMessageA(WindowHandle window, unsigned message, std::uintptr_t wParam,
+                                           std::intptr_t lParam) {
   Node* node = Find(window);
   if (!node) return 0;
   std::uint32_t pointed = 0;
-  if (message == WM_ORV_THEME_QUERY && lParam)
-    pointed = *reinterpret_cast<const std::uint32_t*>(lParam);
+  if (message == WM_ORV_THEME_QUERY && lParam) pointed = *reinterpret_cast<const std::uint32_t*>(lParam);
   sent_.push_back({window, message, wParam, lParam, pointed});
   // As on the platform: the subclassing object sees the message first.
   if (node->subclassedBy) {
@@ -211,8 +208,7 @@ std::intptr_t FakeWindowTree::SendMessageA(WindowHandle window, unsigned message
     if (auto answer = node->handler(message, wParam, lParam)) return *answer;
   if (message == kLvmGetHeader) {
     for (Node* child : node->children)
-      if (child->alive && EqualsNoCase(child->className, "SysHeader32"))
-        return reinterpret_cast<std::intptr_t>(child);
+      if (child->alive && EqualsNoCase(child->className, "SysHeader32")) return reinterpret_cast<std::intptr_t>(child);
   }
   return 0;
 }
@@ -251,9 +247,7 @@ int FakeWindowTree::FillRect(DeviceContext dc, const WindowRect& rect, BrushHand
   return 1;
 }
 
-int FakeWindowTree::SetBkMode(DeviceContext dc, int mode) {
-  return std::exchange(dcs_[dc].bkMode, mode);
-}
+int FakeWindowTree::SetBkMode(DeviceContext dc, int mode) { return std::exchange(dcs_[dc].bkMode, mode); }
 
 std::uint32_t FakeWindowTree::SetTextColor(DeviceContext dc, std::uint32_t color) {
   return std::exchange(dcs_[dc].textColor, color);

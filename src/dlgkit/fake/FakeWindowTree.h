@@ -41,16 +41,15 @@ class FakeWindowTree final : public WindowOps {
     std::vector<std::pair<WindowRect, BrushHandle>> fills;
   };
   // Answers a message sent to one window; nullopt lets the tree answer (0 by default).
-  using MessageHandler =
-      std::function<std::optional<std::intptr_t>(unsigned, std::uintptr_t, std::intptr_t)>;
+  using MessageHandler = std::function<std::optional<std::intptr_t>(unsigned, std::uintptr_t, std::intptr_t)>;
 
   FakeWindowTree();
   ~FakeWindowTree() override;
 
   // Building.
   WindowHandle CreateDialogWindow(WindowRect client = {0, 0, 300, 200});
-  WindowHandle AddChild(WindowHandle parent, const std::string& className, std::int32_t style,
-                        int id, const std::string& text = {});
+  WindowHandle AddChild(WindowHandle parent, const std::string& className, std::int32_t style, int id,
+                        const std::string& text = {});
   void SetMessageHandler(WindowHandle window, MessageHandler handler);
   void SetListBoxItems(WindowHandle listBox, std::vector<std::string> items);
   void SetDisplayLogPixelsY(int dpi) { dpi_ = dpi; }

@@ -62,7 +62,7 @@ class HeadlessRunner {
   bool PressCancel();          // true when the sheet closed
   bool PressNext();            // true when the page changed
   bool PressBack();
-  bool PressFinish();          // true when the wizard closed
+  bool PressFinish();  // true when the wizard closed
 
   bool IsRunning() const { return running_; }
   int Result() const { return result_; }

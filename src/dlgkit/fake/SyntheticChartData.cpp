@@ -118,12 +118,23 @@ Status SyntheticChartData::GetValue(std::int32_t field, std::int32_t barPos, dou
   const Bar* bar = At(barPos);
   if (!bar) return kStatusInvalidArg;
   switch (field) {
-    case 0: value = bar->close; return kStatusOk;
-    case 1: value = bar->high; return kStatusOk;
-    case 2: value = bar->low; return kStatusOk;
-    case 3: value = bar->open; return kStatusOk;
-    case 6: value = bar->tick; return kStatusOk;
-    default: return kStatusInvalidArg;
+    case 0:
+      value = bar->close;
+      return kStatusOk;
+    case 1:
+      value = bar->high;
+      return kStatusOk;
+    case 2:
+      value = bar->low;
+      return kStatusOk;
+    case 3:
+      value = bar->open;
+      return kStatusOk;
+    case 6:
+      value = bar->tick;
+      return kStatusOk;
+    default:
+      return kStatusInvalidArg;
   }
 }
 
@@ -150,7 +161,8 @@ Status SyntheticChartData::DateToPos(std::int32_t date, std::int32_t time, std::
   return kStatusFail;
 }
 
-Status SyntheticChartData::PosToDate(std::int32_t barPos, std::int32_t& date, std::int32_t& time, std::int32_t& seconds) {
+Status SyntheticChartData::PosToDate(std::int32_t barPos, std::int32_t& date, std::int32_t& time,
+                                     std::int32_t& seconds) {
   calls_.push_back("PosToDate(" + std::to_string(barPos) + ")");
   const Bar* bar = At(barPos);
   if (!bar) return kStatusInvalidArg;

@@ -12,7 +12,7 @@ class LocalClock final : public Clock {
     std::tm local{};
     if (!localtime_r(&now, &local)) return DateTime{1970, 1, 1, 0, 0, 0};
     return DateTime{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
-                    local.tm_hour, local.tm_min, local.tm_sec > 59 ? 59 : local.tm_sec};
+                    local.tm_hour,        local.tm_min,     local.tm_sec > 59 ? 59 : local.tm_sec};
   }
 };
 }  // namespace

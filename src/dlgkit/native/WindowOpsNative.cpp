@@ -13,9 +13,7 @@ class HeadlessWindowOps final : public WindowOps {
   std::int32_t GetWindowLongA(WindowHandle, int) override { return 0; }
   std::int32_t SetWindowLongA(WindowHandle, int, std::int32_t) override { return 0; }
   int GetDlgCtrlID(WindowHandle) override { return 0; }
-  std::intptr_t SendMessageA(WindowHandle, unsigned, std::uintptr_t, std::intptr_t) override {
-    return 0;
-  }
+  std::intptr_t SendMessageA(WindowHandle, unsigned, std::uintptr_t, std::intptr_t) override { return 0; }
   bool InvalidateRect(WindowHandle, const WindowRect*, bool) override { return false; }
   bool GetClientRect(WindowHandle, WindowRect& rect) override {
     rect = {};

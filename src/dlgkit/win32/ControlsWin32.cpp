@@ -28,7 +28,8 @@ std::string ItemText(HWND control, int index, UINT lengthMessage, UINT textMessa
   const LRESULT length = Send(control, lengthMessage, static_cast<WPARAM>(index));
   if (length < 0) return {};
   std::vector<char> buffer(static_cast<std::size_t>(length) + 1, '\0');
-  const LRESULT copied = Send(control, textMessage, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer.data()));
+  const LRESULT copied =
+      Send(control, textMessage, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer.data()));
   if (copied < 0) return {};
   return std::string(buffer.data());
 }
@@ -267,7 +268,8 @@ std::string Win32Controls::ListViewGetItemText(int id, int item, int subItem) {
     request.iSubItem = subItem;
     request.pszText = buffer.data();
     request.cchTextMax = static_cast<int>(size);
-    const LRESULT length = Send(control, LVM_GETITEMTEXTA, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&request));
+    const LRESULT length =
+        Send(control, LVM_GETITEMTEXTA, static_cast<WPARAM>(item), reinterpret_cast<LPARAM>(&request));
     if (length < static_cast<LRESULT>(size) - 1) return std::string(buffer.data());
   }
   return {};

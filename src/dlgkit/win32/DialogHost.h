@@ -60,6 +60,7 @@ class DialogHost {
 // template. Gives EndDialog's result (IDOK, IDCANCEL), -1 when the dialog couldn't be created;
 // rethrows what a page handler threw, after the window is gone.
 INT_PTR RunPageDialog(Page& page, HINSTANCE module, int templateId, HWND owner, WindowOps* windowOps = nullptr);
-INT_PTR RunPageDialogIndirect(Page& page, const DLGTEMPLATE* dialogTemplate, HWND owner, WindowOps* windowOps = nullptr);
+INT_PTR RunPageDialogIndirect(Page& page, const DLGTEMPLATE* dialogTemplate, HWND owner,
+                              WindowOps* windowOps = nullptr);
 
 }  // namespace orv

@@ -23,8 +23,7 @@ ComPtr<I> Create(const CLSID& clsid, const IID& iid) {
 class ComSettingsService final : public SettingsService {
  public:
   explicit ComSettingsService(ComPtr<ISettingsService> service) : service_(std::move(service)) {}
-  void GetValue(const std::string& section, const std::string& key, std::string& value,
-                std::int32_t& result) override {
+  void GetValue(const std::string& section, const std::string& key, std::string& value, std::int32_t& result) override {
     Bstr sectionText = MakeBstr(section);
     Bstr keyText = MakeBstr(key);
     Variant answer;

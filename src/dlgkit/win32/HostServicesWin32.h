@@ -19,8 +19,7 @@ inline constexpr IID kIidSettingsService = {
 inline constexpr CLSID kClsidHelpService = {
     0x3BCD3CE9, 0x8D2B, 0x47B3, {0xAC, 0xFB, 0x6D, 0xA1, 0xF3, 0xF3, 0x2F, 0x31}};
 // {86B90E6F-AF28-497C-9C24-DA8BA6A7BDC4}
-inline constexpr IID kIidHelpService = {
-    0x86B90E6F, 0xAF28, 0x497C, {0x9C, 0x24, 0xDA, 0x8B, 0xA6, 0xA7, 0xBD, 0xC4}};
+inline constexpr IID kIidHelpService = {0x86B90E6F, 0xAF28, 0x497C, {0x9C, 0x24, 0xDA, 0x8B, 0xA6, 0xA7, 0xBD, 0xC4}};
 
 // Every server context the host may run its services in (CLSCTX_INPROC_SERVER |
 // CLSCTX_INPROC_HANDLER | CLSCTX_LOCAL_SERVER | CLSCTX_REMOTE_SERVER).
@@ -32,10 +31,9 @@ struct ISettingsService : public IDispatch {
   virtual HRESULT STDMETHODCALLTYPE GetValue(BSTR section, BSTR key, VARIANT* value, long* result) = 0;
   virtual HRESULT STDMETHODCALLTYPE SetValue(BSTR section, BSTR key, long value, long kind, long* result) = 0;
   virtual HRESULT STDMETHODCALLTYPE GetTheme(long* themeRecord, long zero, long* result) = 0;
-  virtual HRESULT STDMETHODCALLTYPE GetDocumentValue(BSTR document, BSTR xpath, BSTR attribute, long kind,
-                                                     BSTR* value, long* result) = 0;
-  virtual HRESULT STDMETHODCALLTYPE GetDocumentNode(BSTR document, BSTR xpath, IUnknown** node,
-                                                    long* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetDocumentValue(BSTR document, BSTR xpath, BSTR attribute, long kind, BSTR* value,
+                                                     long* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetDocumentNode(BSTR document, BSTR xpath, IUnknown** node, long* result) = 0;
 };
 
 struct IHelpService : public IDispatch {

@@ -74,21 +74,22 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
     const bool icon = style_.iconResource != 0;
     TemplateWriter t;
     const int items = static_cast<int>(style_.buttons.size()) + 1 + (icon ? 1 : 0);
-    t.Dialog(DS_SETFONT | DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU, items,
-             {0, 0, layout.cx, layout.cy}, orv::Widen(caption_));
+    t.Dialog(DS_SETFONT | DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU, items, {0, 0, layout.cx, layout.cy},
+             orv::Widen(caption_));
     if (icon) t.Item(SS_ICON, layout.icon, orv::kMessageBoxIconId, kStaticAtom, L"");
     t.Item(SS_LEFT | SS_NOPREFIX, layout.text, orv::kMessageBoxTextId, kStaticAtom, L"");
     for (std::size_t i = 0; i < style_.buttons.size(); ++i) {
       const bool isDefault = static_cast<int>(i) == style_.defaultIndex;
-      t.Item((isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP | (i == 0 ? WS_GROUP : 0),
-             layout.buttons[i], style_.buttons[i].id, kButtonAtom, orv::Widen(style_.buttons[i].text));
+      t.Item((isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON) | WS_TABSTOP | (i == 0 ? WS_GROUP : 0), layout.buttons[i],
+             style_.buttons[i].id, kButtonAtom, orv::Widen(style_.buttons[i].text));
     }
     textRoom_ = layout.textRoom;
 
     HINSTANCE module = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                        reinterpret_cast<LPCWSTR>(&orv::MessageBoxStyleFromFlags), &module);
-    HWND box = CreateDialogIndirectParamW(module, t.Get(), owner, &COrvMessageBox::Proc, reinterpret_cast<LPARAM>(this));
+    HWND box =
+        CreateDialogIndirectParamW(module, t.Get(), owner, &COrvMessageBox::Proc, reinterpret_cast<LPARAM>(this));
     if (box == nullptr) {
       if (failure_) std::rethrow_exception(failure_);
       return -1;
@@ -102,7 +103,7 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
     for (;;) {
       const BOOL got = GetMessageW(&msg, nullptr, 0, 0);
       if (got == 0) {
-        if (msg.hwnd == box) break;  // our own quit: the box is done
+        if (msg.hwnd == box) break;                     // our own quit: the box is done
         PostQuitMessage(static_cast<int>(msg.wParam));  // the host's: hand it back to its loop
         if (result_ == -1) result_ = style_.cancelId;
         break;
@@ -123,8 +124,8 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
 
  private:
   static INT_PTR CALLBACK Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    auto* self = reinterpret_cast<COrvMessageBox*>(
-        message == WM_INITDIALOG ? lParam : GetWindowLongPtrW(window, DWLP_USER));
+    auto* self =
+        reinterpret_cast<COrvMessageBox*>(message == WM_INITDIALOG ? lParam : GetWindowLongPtrW(window, DWLP_USER));
     if (self == nullptr) return FALSE;
     if (message == WM_INITDIALOG) SetWindowLongPtrW(window, DWLP_USER, lParam);
     try {
@@ -197,9 +198,9 @@ class COrvMessageBox : public COrvDialog<COrvMessageBox> {
     HWND icon = GetDlgItem(window, orv::kMessageBoxIconId);
     if (icon) iconRect = Child(window, icon);
     const int besideButtons = client.right - textRect.left - margin.right;
-    const orv::MessageBoxFit fit = orv::FitMessageBoxText(textRect.top, room.bottom, icon != nullptr, iconRect.top,
-                                                          iconRect.bottom - iconRect.top, measuredWidth,
-                                                          measuredHeight, besideButtons);
+    const orv::MessageBoxFit fit =
+        orv::FitMessageBoxText(textRect.top, room.bottom, icon != nullptr, iconRect.top, iconRect.bottom - iconRect.top,
+                               measuredWidth, measuredHeight, besideButtons);
     MoveWindow(text, textRect.left, fit.textTop, besideButtons + fit.growWidth, fit.textHeight, FALSE);
     if (fit.growWidth == 0 && fit.growHeight == 0) return;
     RECT frame;

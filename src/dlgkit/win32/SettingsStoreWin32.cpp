@@ -55,12 +55,14 @@ std::optional<std::string> RegistrySettingsStore::ReadString(std::string_view ke
   for (int attempt = 0; attempt < 4; ++attempt) {
     DWORD type = 0;
     DWORD size = 0;
-    if (::RegQueryValueExA(key.get(), nameZ.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS) return std::nullopt;
+    if (::RegQueryValueExA(key.get(), nameZ.c_str(), nullptr, &type, nullptr, &size) != ERROR_SUCCESS)
+      return std::nullopt;
     if (type != REG_SZ) return std::nullopt;
     // One more byte than asked: a stored string need not carry its terminator.
     std::vector<char> buffer(static_cast<std::size_t>(size) + 1, '\0');
     DWORD got = size;
-    const LONG status = ::RegQueryValueExA(key.get(), nameZ.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(buffer.data()), &got);
+    const LONG status =
+        ::RegQueryValueExA(key.get(), nameZ.c_str(), nullptr, &type, reinterpret_cast<BYTE*>(buffer.data()), &got);
     if (status == ERROR_MORE_DATA) continue;
     if (status != ERROR_SUCCESS || type != REG_SZ) return std::nullopt;
     buffer[std::min<std::size_t>(got, size)] = '\0';

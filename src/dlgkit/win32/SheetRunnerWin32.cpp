@@ -128,9 +128,8 @@ std::intptr_t SheetRunnerWin32::Run(const SheetSetup& setup) {
   } handles{pages};
   for (const SheetPage& entry : setup.pages) {
     // The host keeps a page's exception; closing the sheet is the runner's part.
-    auto host = std::make_unique<DialogHost>(*entry.page, nullptr, [](HWND page) {
-      ::PostMessageA(::GetParent(page), PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
-    });
+    auto host = std::make_unique<DialogHost>(
+        *entry.page, nullptr, [](HWND page) { ::PostMessageA(::GetParent(page), PSM_PRESSBUTTON, PSBTN_CANCEL, 0); });
     PROPSHEETPAGEA page{};
     page.dwSize = sizeof(page);
     page.dwFlags = PSP_DEFAULT;
@@ -139,7 +138,8 @@ std::intptr_t SheetRunnerWin32::Run(const SheetSetup& setup) {
     page.pfnDlgProc = &DialogHost::PropertyPageProc;
     page.lParam = reinterpret_cast<LPARAM>(host.get());
     HPROPSHEETPAGE handle = ::CreatePropertySheetPageA(&page);
-    if (!handle) throw ::XmlComError(static_cast<Status>(HRESULT_FROM_WIN32(::GetLastError())), "CreatePropertySheetPage");
+    if (!handle)
+      throw ::XmlComError(static_cast<Status>(HRESULT_FROM_WIN32(::GetLastError())), "CreatePropertySheetPage");
     pages.push_back(handle);
     hosts.push_back(std::move(host));
   }

@@ -89,9 +89,7 @@ void DrawLabel(HDC dc, HWND window, const std::string& text, RECT rect, COLORREF
 
 bool HasFocus(HWND window) { return ::GetFocus() == window; }
 
-bool ShowFocusCue(HWND window) {
-  return !(::SendMessageA(window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS);
-}
+bool ShowFocusCue(HWND window) { return !(::SendMessageA(window, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS); }
 
 void PaintPushButton(HWND window, HDC dc, const COrvButton& button) {
   RECT rect;
@@ -137,15 +135,19 @@ void PaintRadioOrCheck(HWND window, HDC dc, const COrvRadioOrCheck& button) {
   boxRect.left = textLeft ? rect.right - box : rect.left;
   boxRect.right = boxRect.left + box;
   UINT frame = radio ? DFCS_BUTTONRADIO : DFCS_BUTTONCHECK;
-  if (check == BST_INDETERMINATE) frame = DFCS_BUTTON3STATE | DFCS_CHECKED;
-  else if (check == BST_CHECKED) frame |= DFCS_CHECKED;
+  if (check == BST_INDETERMINATE)
+    frame = DFCS_BUTTON3STATE | DFCS_CHECKED;
+  else if (check == BST_CHECKED)
+    frame |= DFCS_CHECKED;
   if (!enabled) frame |= DFCS_INACTIVE;
   if (state & BST_PUSHED) frame |= DFCS_PUSHED;
   ::DrawFrameControl(dc, &boxRect, DFC_BUTTON, frame);
 
   RECT textRect = rect;
-  if (textLeft) textRect.right = boxRect.left - 4;
-  else textRect.left = boxRect.right + 4;
+  if (textLeft)
+    textRect.right = boxRect.left - 4;
+  else
+    textRect.left = boxRect.right + 4;
   const std::string text = WindowText(window);
   UINT format = DT_VCENTER | DT_SINGLELINE | (textLeft ? DT_RIGHT : DT_LEFT);
   if (style & BS_MULTILINE) format = DT_WORDBREAK | (textLeft ? DT_RIGHT : DT_LEFT);
@@ -216,8 +218,10 @@ void PaintUpDown(HWND window, HDC dc, const COrvUpDownCtrl& upDown) {
   const COLORREF arrow = ::IsWindowEnabled(window) ? upDown.arrowColor : upDown.disabledColor;
   Fill(dc, rect, upDown.backgroundColor);
   RECT first = rect, second = rect;
-  if (horizontal) first.right = second.left = (rect.left + rect.right) / 2;
-  else first.bottom = second.top = (rect.top + rect.bottom) / 2;
+  if (horizontal)
+    first.right = second.left = (rect.left + rect.right) / 2;
+  else
+    first.bottom = second.top = (rect.top + rect.bottom) / 2;
   Frame(dc, first, upDown.frameColor);
   Frame(dc, second, upDown.frameColor);
   // Vertical: up on top; horizontal: left then right.
@@ -278,8 +282,9 @@ void PaintHeader(HWND window, HDC dc, const COrvHeader& header) {
     ::SendMessageA(window, HDM_GETITEMA, i, reinterpret_cast<LPARAM>(&data));
     RECT textRect = item;
     ::InflateRect(&textRect, -6, 0);
-    UINT align = (data.fmt & HDF_JUSTIFYMASK) == HDF_RIGHT ? DT_RIGHT
-                 : (data.fmt & HDF_JUSTIFYMASK) == HDF_CENTER ? DT_CENTER : DT_LEFT;
+    UINT align = (data.fmt & HDF_JUSTIFYMASK) == HDF_RIGHT    ? DT_RIGHT
+                 : (data.fmt & HDF_JUSTIFYMASK) == HDF_CENTER ? DT_CENTER
+                                                              : DT_LEFT;
     DrawLabel(dc, window, text, textRect, header.textColor, align | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS);
     RECT separator{item.right - 1, item.top + 3, item.right, item.bottom - 3};
     Fill(dc, separator, header.textColor);
@@ -344,10 +349,21 @@ bool PaintsItself(ThemedControlKind kind) {
 // back right after.
 bool ButtonDrawsOn(UINT message, HWND window) {
   switch (message) {
-    case BM_SETSTATE: case BM_SETCHECK: case BM_SETSTYLE: case BM_CLICK:
-    case WM_SETFOCUS: case WM_KILLFOCUS: case WM_ENABLE: case WM_SETTEXT:
-    case WM_LBUTTONDOWN: case WM_LBUTTONUP: case WM_LBUTTONDBLCLK:
-    case WM_KEYDOWN: case WM_KEYUP: case WM_CAPTURECHANGED: case WM_UPDATEUISTATE:
+    case BM_SETSTATE:
+    case BM_SETCHECK:
+    case BM_SETSTYLE:
+    case BM_CLICK:
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_ENABLE:
+    case WM_SETTEXT:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+    case WM_CAPTURECHANGED:
+    case WM_UPDATEUISTATE:
       return true;
     case WM_MOUSEMOVE:
       return ::GetCapture() == window;

@@ -19,9 +19,7 @@ RECT ToRect(const WindowRect& r) { return RECT{r.left, r.top, r.right, r.bottom}
 
 class Win32WindowOps final : public WindowOps {
  public:
-  WindowHandle GetWindow(WindowHandle window, unsigned command) override {
-    return ::GetWindow(H(window), command);
-  }
+  WindowHandle GetWindow(WindowHandle window, unsigned command) override { return ::GetWindow(H(window), command); }
   WindowHandle GetDlgItem(WindowHandle dialog, int id) override { return ::GetDlgItem(H(dialog), id); }
   int GetClassNameA(WindowHandle window, char* buffer, int size) override {
     if (size > 0) buffer[0] = '\0';
@@ -31,9 +29,7 @@ class Win32WindowOps final : public WindowOps {
     if (size > 0) buffer[0] = '\0';
     return ::GetWindowTextA(H(window), buffer, size);
   }
-  std::int32_t GetWindowLongA(WindowHandle window, int index) override {
-    return ::GetWindowLongA(H(window), index);
-  }
+  std::int32_t GetWindowLongA(WindowHandle window, int index) override { return ::GetWindowLongA(H(window), index); }
   std::int32_t SetWindowLongA(WindowHandle window, int index, std::int32_t value) override {
     return ::SetWindowLongA(H(window), index, value);
   }
@@ -60,12 +56,8 @@ class Win32WindowOps final : public WindowOps {
     return ::FillRect(D(dc), &r, static_cast<HBRUSH>(brush));
   }
   int SetBkMode(DeviceContext dc, int mode) override { return ::SetBkMode(D(dc), mode); }
-  std::uint32_t SetTextColor(DeviceContext dc, std::uint32_t color) override {
-    return ::SetTextColor(D(dc), color);
-  }
-  std::uint32_t SetBkColor(DeviceContext dc, std::uint32_t color) override {
-    return ::SetBkColor(D(dc), color);
-  }
+  std::uint32_t SetTextColor(DeviceContext dc, std::uint32_t color) override { return ::SetTextColor(D(dc), color); }
+  std::uint32_t SetBkColor(DeviceContext dc, std::uint32_t color) override { return ::SetBkColor(D(dc), color); }
   int GetDisplayLogPixelsY() override {
     // The system's DPI, which a process sees fixed from its start (a change takes a new logon):
     // the "DISPLAY" device is asked once, not at every dialog and theme load.
@@ -82,8 +74,7 @@ class Win32WindowOps final : public WindowOps {
     return SubclassWindowProc(H(window), &ThemedControlSubclassProc, &control);
   }
   void UnsubclassWindow(WindowHandle window, COrvThemedControl&) override {
-    if (::IsWindow(H(window)))
-      RemoveWindowSubclassProc(H(window), &ThemedControlSubclassProc);
+    if (::IsWindow(H(window))) RemoveWindowSubclassProc(H(window), &ThemedControlSubclassProc);
   }
   int MeasureListBoxHorizontalExtent(WindowHandle listBox) override {
     HWND list = H(listBox);

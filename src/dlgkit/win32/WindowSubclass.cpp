@@ -54,9 +54,9 @@ bool SubclassWindowProc(HWND window, WindowSubclassProc proc, void* data) {
   // In the map first: the window may be sent a message while its procedure changes.
   t_subclasses.emplace(window, subclass);
   ::SetLastError(0);
-  const LONG_PTR original =
-      subclass.unicode ? ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&EntryW))
-                       : ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&EntryA));
+  const LONG_PTR original = subclass.unicode
+                                ? ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&EntryW))
+                                : ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&EntryA));
   if (original == 0 && ::GetLastError() != 0) {
     t_subclasses.erase(window);
     return false;
@@ -83,8 +83,8 @@ void RemoveWindowSubclassProc(HWND window, WindowSubclassProc proc) {
   if (found == t_subclasses.end() || found->second.proc != proc) return;
   Subclass& subclass = found->second;
   const LONG_PTR entry = reinterpret_cast<LONG_PTR>(subclass.unicode ? &EntryW : &EntryA);
-  const LONG_PTR current = subclass.unicode ? ::GetWindowLongPtrW(window, GWLP_WNDPROC)
-                                            : ::GetWindowLongPtrA(window, GWLP_WNDPROC);
+  const LONG_PTR current =
+      subclass.unicode ? ::GetWindowLongPtrW(window, GWLP_WNDPROC) : ::GetWindowLongPtrA(window, GWLP_WNDPROC);
   if (current != entry) {
     subclass.removed = true;
     return;

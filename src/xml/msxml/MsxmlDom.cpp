@@ -53,8 +53,9 @@ ComPtr<IXMLDOMDocument2> FactoryOf(const IXMLDOMNode& parentNode) {
   ComPtr<IXMLDOMDocument> owner;
   Check(parent->get_ownerDocument(owner.put()), "IXMLDOMNode::get_ownerDocument");
   ComPtr<IXMLDOMDocument2> document;
-  const HRESULT status = owner ? owner.As(kIID_IXMLDOMDocument2, document)
-                               : parent->QueryInterface(kIID_IXMLDOMDocument2, reinterpret_cast<void**>(document.put()));
+  const HRESULT status = owner
+                             ? owner.As(kIID_IXMLDOMDocument2, document)
+                             : parent->QueryInterface(kIID_IXMLDOMDocument2, reinterpret_cast<void**>(document.put()));
   if (status != E_NOINTERFACE) Check(status, "QueryInterface IXMLDOMDocument2");
   if (!document) throw XmlComError(kStatusPointer, "no owner document");
   return document;
@@ -215,9 +216,7 @@ void ClearDocument(const NodeImpl& document) {
 
 }  // namespace orv::dom
 
-XmlNode XmlWrapDomNode(IXMLDOMNode* node) {
-  return XmlNode(orv::dom::Wrap(orv::ComPtr<IXMLDOMNode>::Share(node)));
-}
+XmlNode XmlWrapDomNode(IXMLDOMNode* node) { return XmlNode(orv::dom::Wrap(orv::ComPtr<IXMLDOMNode>::Share(node))); }
 
 XmlNode XmlWrapUnknown(IUnknown* object) {
   if (object == nullptr) return XmlNode();

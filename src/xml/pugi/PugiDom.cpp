@@ -26,10 +26,10 @@ struct DocumentState {
 struct NodeImpl {
   enum class Kind { Document, Node, Attribute, AttributeText };
   Kind kind = Kind::Node;
-  std::shared_ptr<DocumentState> owner;        // Kind::Document
-  std::shared_ptr<pugi::xml_document> tree;    // the others
-  pugi::xml_node node;                         // Kind::Node
-  pugi::xml_attribute attribute;               // Kind::Attribute and its text child, Kind::AttributeText
+  std::shared_ptr<DocumentState> owner;      // Kind::Document
+  std::shared_ptr<pugi::xml_document> tree;  // the others
+  pugi::xml_node node;                       // Kind::Node
+  pugi::xml_attribute attribute;             // Kind::Attribute and its text child, Kind::AttributeText
 
   const std::shared_ptr<pugi::xml_document>& Tree() const { return kind == Kind::Document ? owner->current : tree; }
   pugi::xml_node Top() const { return kind == Kind::Document ? pugi::xml_node(*owner->current) : node; }
@@ -90,13 +90,17 @@ bool IsStrictlyWellFormed(const pugi::xml_document& document) {
   bool first = true;
   for (pugi::xml_node top : document.children()) {
     switch (top.type()) {
-      case pugi::node_element: ++elements; break;
+      case pugi::node_element:
+        ++elements;
+        break;
       case pugi::node_pcdata:
-      case pugi::node_cdata: return false;
+      case pugi::node_cdata:
+        return false;
       case pugi::node_declaration:
         if (!first) return false;
         break;
-      default: break;
+      default:
+        break;
     }
     first = false;
   }
@@ -156,18 +160,28 @@ constexpr unsigned kPrintFlags = pugi::format_raw | pugi::format_no_declaration;
 
 std::string NodeName(const NodeImpl& impl) {
   switch (impl.kind) {
-    case NodeImpl::Kind::Document: return "#document";
-    case NodeImpl::Kind::Attribute: return impl.attribute.name();
-    case NodeImpl::Kind::AttributeText: return "#text";
-    case NodeImpl::Kind::Node: break;
+    case NodeImpl::Kind::Document:
+      return "#document";
+    case NodeImpl::Kind::Attribute:
+      return impl.attribute.name();
+    case NodeImpl::Kind::AttributeText:
+      return "#text";
+    case NodeImpl::Kind::Node:
+      break;
   }
   switch (impl.node.type()) {
-    case pugi::node_document: return "#document";
-    case pugi::node_pcdata: return "#text";
-    case pugi::node_cdata: return "#cdata-section";
-    case pugi::node_comment: return "#comment";
-    case pugi::node_declaration: return "xml";
-    default: return impl.node.name();  // elements, processing instructions, doctype
+    case pugi::node_document:
+      return "#document";
+    case pugi::node_pcdata:
+      return "#text";
+    case pugi::node_cdata:
+      return "#cdata-section";
+    case pugi::node_comment:
+      return "#comment";
+    case pugi::node_declaration:
+      return "xml";
+    default:
+      return impl.node.name();  // elements, processing instructions, doctype
   }
 }
 
@@ -178,7 +192,8 @@ std::string NodeValue(const NodeImpl& impl) {
     case pugi::node_pcdata:
     case pugi::node_cdata:
     case pugi::node_comment:
-    case pugi::node_pi: return impl.node.value();
+    case pugi::node_pi:
+      return impl.node.value();
     case pugi::node_declaration: {
       // MSXML gives the declaration's content as its value.
       std::string value;
@@ -191,7 +206,8 @@ std::string NodeValue(const NodeImpl& impl) {
       }
       return value;
     }
-    default: return {};  // elements and documents have a null nodeValue
+    default:
+      return {};  // elements and documents have a null nodeValue
   }
 }
 
@@ -199,9 +215,12 @@ bool IsDocument(const NodeImpl& impl) { return impl.kind == NodeImpl::Kind::Docu
 
 Node FirstChild(const NodeImpl& impl) {
   switch (impl.kind) {
-    case NodeImpl::Kind::Attribute: return MakeAttribute(impl.Tree(), impl.attribute, NodeImpl::Kind::AttributeText);
-    case NodeImpl::Kind::AttributeText: return nullptr;
-    default: return MakeNode(impl.Tree(), impl.Top().first_child());
+    case NodeImpl::Kind::Attribute:
+      return MakeAttribute(impl.Tree(), impl.attribute, NodeImpl::Kind::AttributeText);
+    case NodeImpl::Kind::AttributeText:
+      return nullptr;
+    default:
+      return MakeNode(impl.Tree(), impl.Top().first_child());
   }
 }
 
@@ -214,9 +233,12 @@ Node ParentNode(const NodeImpl& impl) {
   // As the DOM has it: an attribute has no parent, its text's parent is the attribute.
   switch (impl.kind) {
     case NodeImpl::Kind::Document:
-    case NodeImpl::Kind::Attribute: return nullptr;
-    case NodeImpl::Kind::AttributeText: return MakeAttribute(impl.Tree(), impl.attribute, NodeImpl::Kind::Attribute);
-    case NodeImpl::Kind::Node: break;
+    case NodeImpl::Kind::Attribute:
+      return nullptr;
+    case NodeImpl::Kind::AttributeText:
+      return MakeAttribute(impl.Tree(), impl.attribute, NodeImpl::Kind::Attribute);
+    case NodeImpl::Kind::Node:
+      break;
   }
   pugi::xml_node parent = impl.node.parent();
   if (!parent) return nullptr;
@@ -316,8 +338,8 @@ bool LoadXml(const NodeImpl& document, std::string_view text) {
   // Comments, processing instructions and the declaration stay nodes, as in MSXML; text that is
   // only white space is dropped, as MSXML drops it by default. As a fragment, text outside the
   // root element is kept rather than silently skipped, so that the strict check can refuse it.
-  constexpr unsigned kParse = pugi::parse_default | pugi::parse_comments | pugi::parse_pi |
-                              pugi::parse_declaration | pugi::parse_fragment;
+  constexpr unsigned kParse =
+      pugi::parse_default | pugi::parse_comments | pugi::parse_pi | pugi::parse_declaration | pugi::parse_fragment;
   pugi::xml_parse_result result = tree->load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
   if (result && IsStrictlyWellFormed(*tree)) return true;
   tree->reset();  // a failed load leaves the document empty; nothing points into the new tree yet

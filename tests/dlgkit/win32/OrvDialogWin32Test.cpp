@@ -19,8 +19,21 @@
 namespace {
 
 enum : int {
-  kIdPush = 101, kIdCheck, kIdRadio, kIdGroup, kIdOwnerDraw, kIdEdit, kIdStaticLeft, kIdStaticRight,
-  kIdCombo, kIdList, kIdListView, kIdTab, kIdUpDown, kIdColorWnd, kIdUpDownBuddy
+  kIdPush = 101,
+  kIdCheck,
+  kIdRadio,
+  kIdGroup,
+  kIdOwnerDraw,
+  kIdEdit,
+  kIdStaticLeft,
+  kIdStaticRight,
+  kIdCombo,
+  kIdList,
+  kIdListView,
+  kIdTab,
+  kIdUpDown,
+  kIdColorWnd,
+  kIdUpDownBuddy
 };
 
 // Records what reaches a "ColorWnd": the theme, and reflected notifications.
@@ -44,22 +57,32 @@ class TemplateBuilder {
     Dword(0);
     countAt_ = words_.size();
     Word(0);
-    Word(10); Word(10); Word(static_cast<WORD>(cx)); Word(static_cast<WORD>(cy));
+    Word(10);
+    Word(10);
+    Word(static_cast<WORD>(cx));
+    Word(static_cast<WORD>(cy));
     Word(0);  // menu
     Word(0);  // class
     Text(title);
     Word(8);
     Text("MS Shell Dlg");
   }
-  void Item(WORD classOrdinal, const char* className, const char* text, DWORD style, short x, short y,
-            short cx, short cy, WORD id) {
+  void Item(WORD classOrdinal, const char* className, const char* text, DWORD style, short x, short y, short cx,
+            short cy, WORD id) {
     if (words_.size() % 2) Word(0);
     Dword(style | WS_CHILD | WS_VISIBLE);
     Dword(0);
-    Word(static_cast<WORD>(x)); Word(static_cast<WORD>(y)); Word(static_cast<WORD>(cx)); Word(static_cast<WORD>(cy));
+    Word(static_cast<WORD>(x));
+    Word(static_cast<WORD>(y));
+    Word(static_cast<WORD>(cx));
+    Word(static_cast<WORD>(cy));
     Word(id);
-    if (className) Text(className);
-    else { Word(0xFFFF); Word(classOrdinal); }
+    if (className)
+      Text(className);
+    else {
+      Word(0xFFFF);
+      Word(classOrdinal);
+    }
     Text(text);
     Word(0);
     ++words_[countAt_];
@@ -68,7 +91,10 @@ class TemplateBuilder {
 
  private:
   void Word(WORD w) { words_.push_back(w); }
-  void Dword(DWORD d) { Word(LOWORD(d)); Word(HIWORD(d)); }
+  void Dword(DWORD d) {
+    Word(LOWORD(d));
+    Word(HIWORD(d));
+  }
   void Text(const char* text) {
     for (; *text; ++text) Word(static_cast<unsigned char>(*text));
     Word(0);
@@ -170,8 +196,13 @@ ThemeColors DarkTheme() {
 
 int CountThreadWindows() {
   int count = 0;
-  EnumThreadWindows(GetCurrentThreadId(), [](HWND, LPARAM p) { ++*reinterpret_cast<int*>(p); return TRUE; },
-                    reinterpret_cast<LPARAM>(&count));
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND, LPARAM p) {
+        ++*reinterpret_cast<int*>(p);
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&count));
   return count;
 }
 
@@ -193,7 +224,8 @@ COLORREF PixelAt(HWND window, POINT clientPoint) {
 class OrvDialogWin32Test : public ::testing::Test {
  protected:
   static void SetUpTestSuite() {
-    INITCOMMONCONTROLSEX icc{sizeof icc, ICC_LISTVIEW_CLASSES | ICC_TAB_CLASSES | ICC_UPDOWN_CLASS | ICC_STANDARD_CLASSES};
+    INITCOMMONCONTROLSEX icc{sizeof icc,
+                             ICC_LISTVIEW_CLASSES | ICC_TAB_CLASSES | ICC_UPDOWN_CLASS | ICC_STANDARD_CLASSES};
     InitCommonControlsEx(&icc);
     WNDCLASSA wc{};
     wc.lpfnWndProc = ColorWndProc;
@@ -202,7 +234,10 @@ class OrvDialogWin32Test : public ::testing::Test {
     wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     RegisterClassA(&wc);
   }
-  void SetUp() override { g_colorWndMessages.clear(); g_colorWndTheme = nullptr; }
+  void SetUp() override {
+    g_colorWndMessages.clear();
+    g_colorWndTheme = nullptr;
+  }
 
   HWND Create(ThemedDialog& dialog) {
     HWND window = CreateDialogIndirectParamA(GetModuleHandleA(nullptr), templ_.get(), nullptr, TestDialogProc,
@@ -237,7 +272,11 @@ TEST_F(OrvDialogWin32Test, ChildScanOnARealDialog) {
   EXPECT_TRUE(dialog.themeLoaded);
   EXPECT_TRUE(dialog.IsThemeActive());
 
-  struct Expect { int id; bool object; orv::ThemedControlKind kind; } rows[] = {
+  struct Expect {
+    int id;
+    bool object;
+    orv::ThemedControlKind kind;
+  } rows[] = {
       {kIdPush, true, orv::ThemedControlKind::Button},
       {kIdCheck, true, orv::ThemedControlKind::RadioOrCheck},
       {kIdRadio, true, orv::ThemedControlKind::RadioOrCheck},
@@ -319,7 +358,10 @@ TEST_F(OrvDialogWin32Test, ThemeIsPaintedOnTheDialogAndAButton) {
 
   if (const char* hold = std::getenv("ORV_THEME_DEMO_HOLD_MS")) {  // for a look with a screenshot
     DWORD until = GetTickCount() + static_cast<DWORD>(std::atoi(hold));
-    while (GetTickCount() < until) { Pump(); Sleep(20); }
+    while (GetTickCount() < until) {
+      Pump();
+      Sleep(20);
+    }
   }
   DestroyWindow(window);
 }
