@@ -12,6 +12,7 @@
 #include "OrvChartDlgs_h.h"
 #include "com/ComPtr.h"
 #include "xml/msxml/MsxmlGuids.h"
+#include "com/ComApartment.h"
 
 #include <windows.h>
 #include <commctrl.h>
@@ -141,20 +142,6 @@ bool ParseOptions(const std::vector<std::wstring>& args, Options& options, std::
   }
   return true;
 }
-
-class ComApartment {
- public:
-  ComApartment() : hr_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
-  ~ComApartment() {
-    if (SUCCEEDED(hr_)) CoUninitialize();
-  }
-  ComApartment(const ComApartment&) = delete;
-  ComApartment& operator=(const ComApartment&) = delete;
-  HRESULT Status() const { return hr_; }
-
- private:
-  HRESULT hr_;
-};
 
 class Library {
  public:

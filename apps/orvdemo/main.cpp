@@ -7,6 +7,7 @@
 #include "dlgkit/HostServicesInProcess.h"
 #include "dlgkit/WindowOps.h"
 #include "dlgkit/win32/DialogHost.h"
+#include "com/ComApartment.h"
 
 #include <windows.h>
 #include <commctrl.h>
@@ -34,19 +35,6 @@ ThemeColors DemoTheme() {
   return theme;
 }
 
-class ComApartment {
- public:
-  ComApartment() : hr_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
-  ~ComApartment() {
-    if (SUCCEEDED(hr_)) CoUninitialize();
-  }
-  ComApartment(const ComApartment&) = delete;
-  ComApartment& operator=(const ComApartment&) = delete;
-
- private:
-  HRESULT hr_;
-};
-
 int Run(HINSTANCE instance) {
   int argc = 0;
   std::unique_ptr<LPWSTR, decltype(&LocalFree)> argv(CommandLineToArgvW(GetCommandLineW(), &argc), &LocalFree);
@@ -63,7 +51,7 @@ int Run(HINSTANCE instance) {
 
   INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS};
   InitCommonControlsEx(&classes);
-  ComApartment com;
+  orv::ComApartment com;
 
   // The kit asks "the host" for its theme; here the host is this program.
   orv::InProcessHostServices host(DemoTheme());

@@ -15,6 +15,7 @@
 #include "com/ComPtr.h"
 #include "com/WideText.h"
 #include "xml/msxml/MsxmlGuids.h"
+#include "com/ComApartment.h"
 
 #include <windows.h>
 #include <commctrl.h>
@@ -38,20 +39,6 @@ enum ExitCode {
   kExitBadScript = 3,
   kExitBadInput = 4,
   kExitComponentFailed = 5,
-};
-
-class ComApartment {
- public:
-  ComApartment() : hr_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
-  ~ComApartment() {
-    if (SUCCEEDED(hr_)) CoUninitialize();
-  }
-  ComApartment(const ComApartment&) = delete;
-  ComApartment& operator=(const ComApartment&) = delete;
-  HRESULT Status() const { return hr_; }
-
- private:
-  HRESULT hr_;
 };
 
 std::string Utf8(const std::wstring& text) { return Narrow(text, CP_UTF8); }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "FakeSheetOwner.h"
+#include "LsSheetRun.h"
 #include "LsPageLayouts.h"
 #include "LsTestXml.h"
 #include "dlgkit/MessageBox.h"
@@ -27,6 +28,7 @@ using lstest::Compact;
 using lstest::EventXml;
 using lstest::FakeSheetOwner;
 using lstest::Pt;
+using lstest::SheetRun;
 using lstest::SheetXml;
 using lstest::SnapXml;
 using lstest::StudyXml;
@@ -38,26 +40,6 @@ using Chart = std::shared_ptr<SyntheticChartData>;
 const std::int32_t kJune3 = SyntheticChartData::DayNumber(2024, 6, 3);
 const std::int32_t kJune20 = SyntheticChartData::DayNumber(2024, 6, 20);
 const std::int32_t kChristmas = SyntheticChartData::DayNumber(2023, 12, 25);
-
-// One modal run of the line study sheet with the pages' templates.
-class SheetRun {
- public:
-  SheetRun() { lstest::SetLsLayouts(runner); }
-  std::intptr_t Run(const std::string& xml, orv::ChartDataRef chart, std::function<void(HeadlessSheetRunner&)> script) {
-    sheet.InitFromXml(lstest::SheetNode(xml));
-    if (chart) sheet.SetChartData(chart);
-    runner.SetScript(std::move(script));
-    return sheet.DoModal(runner);
-  }
-  std::vector<std::string> Events() const {
-    std::vector<std::string> texts;
-    for (const auto& e : owner.events) texts.push_back(Compact(e.value));
-    return texts;
-  }
-  FakeSheetOwner owner;
-  CLsPs<FakeSheetOwner> sheet{&owner};
-  HeadlessSheetRunner runner;
-};
 
 std::string Dbl(double v) { return orv::StrFormat("%.*g", 15, v); }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "FakeSheetOwner.h"
+#include "LsSheetRun.h"
 #include "LsPageLayouts.h"
 #include "LsTestXml.h"
 #include "dlgkit/fake/HeadlessSheetRunner.h"
@@ -25,6 +26,7 @@ using lstest::Compact;
 using lstest::EventXml;
 using lstest::FakeSheetOwner;
 using lstest::Pt;
+using lstest::SheetRun;
 using lstest::SnapXml;
 using lstest::StudyXml;
 using orv::FakeControls;
@@ -44,24 +46,6 @@ std::string Sheet(const std::vector<Page>& pages) {
   for (const Page& p : pages) text += "<PropertyPage Name=\"" + p.name + "\">" + p.content + "</PropertyPage>";
   return text + "</PropertyPageList></PropertySheet>";
 }
-
-struct SheetRun {
-  SheetRun() { lstest::SetLsLayouts(runner); }
-  std::intptr_t Run(const std::string& xml, orv::ChartDataRef chart, HeadlessSheetRunner::Script script) {
-    sheet.InitFromXml(lstest::SheetNode(xml));
-    if (chart) sheet.SetChartData(chart);
-    runner.SetScript(std::move(script));
-    return sheet.DoModal(runner);
-  }
-  std::vector<std::string> Events() const {
-    std::vector<std::string> texts;
-    for (const auto& e : owner.events) texts.push_back(Compact(e.value));
-    return texts;
-  }
-  FakeSheetOwner owner;
-  CLsPs<FakeSheetOwner> sheet{&owner};
-  HeadlessSheetRunner runner;
-};
 
 std::string Trend(bool lock, const std::vector<Pt>& points) {
   return "<CTrendline>" + StudyXml(lock, points) +
