@@ -95,7 +95,9 @@ TEST(WideText, StrictReadingRefusesWhatTheCodePageCannotRead) {
     SCOPED_TRACE(row.bytes);
     const std::optional<std::wstring> wide = WidenStrict(row.bytes, CP_UTF8);
     EXPECT_EQ(wide.has_value(), row.valid);
-    if (wide) EXPECT_EQ(Narrow(*wide, CP_UTF8), row.bytes);
+    if (wide) {
+      EXPECT_EQ(Narrow(*wide, CP_UTF8), row.bytes);
+    }
   }
 }
 

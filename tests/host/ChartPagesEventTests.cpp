@@ -92,21 +92,6 @@ class StrictSink final : public IDispatch {
   HRESULT status_;
 };
 
-// A sink that is an IDispatch but not of these events.
-class ForeignSink final : public IUnknown {
- public:
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
-    *object = nullptr;
-    if (!IsEqualIID(iid, IID_IUnknown)) return E_NOINTERFACE;
-    *object = this;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++refs; }
-  ULONG STDMETHODCALLTYPE Release() override { return --refs; }
-  ULONG refs = 1;
-};
-
 class StatusEventTest : public ChartPagesTest {
  protected:
   void SetUp() override {
@@ -201,11 +186,12 @@ TEST_F(StatusEventTest, TextIsConvertedFromTheThreadCodePage) {
 
 TEST_F(StatusEventTest, ConnectionBookkeepingRefusesWhatIsWrong) {
   StrictSink sink("sink", journal_, 0, S_OK);
-  ForeignSink foreign;
+  // An object that is no sink of these events: ChartPages itself.
+  const ULONG refs = RefCount(pages_.get());
   DWORD cookie = 77;
-  EXPECT_EQ(point_->Advise(&foreign, &cookie), CONNECT_E_CANNOTCONNECT);
+  EXPECT_EQ(point_->Advise(pages_.get(), &cookie), CONNECT_E_CANNOTCONNECT);
   EXPECT_EQ(cookie, 0u);
-  EXPECT_EQ(foreign.refs, 1u);
+  EXPECT_EQ(RefCount(pages_.get()), refs);
   EXPECT_EQ(point_->Advise(nullptr, &cookie), E_POINTER);
   EXPECT_EQ(point_->Advise(&sink, nullptr), E_POINTER);
   EXPECT_EQ(point_->Unadvise(0), CONNECT_E_NOCONNECTION);

@@ -2,12 +2,7 @@
 # interface table, dispatch from the type library, events into strict sinks, the dispatcher's
 # outcomes and failures. The program carries the type library as its own resource, as the DLL does.
 set(host_objects_rc ${CMAKE_CURRENT_BINARY_DIR}/host_objects_tests.rc)
-set(host_objects_rc_text "1 TYPELIB \"${ORV_TYPELIB}\"\n")
-if(ORV_LINESTUDIES_RC)
-  # The line study pages' templates, as the DLL carries them.
-  string(APPEND host_objects_rc_text "#include \"${ORV_LINESTUDIES_RC}\"\n")
-endif()
-file(WRITE ${host_objects_rc} "${host_objects_rc_text}")
+file(WRITE ${host_objects_rc} "1 TYPELIB \"${ORV_TYPELIB}\"\n")
 set_property(SOURCE ${host_objects_rc} APPEND PROPERTY OBJECT_DEPENDS ${ORV_TYPELIB})
 add_executable(host_objects_tests ${CMAKE_CURRENT_LIST_DIR}/ChartPagesTests.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ChartPagesEventTests.cpp ${host_objects_rc})
