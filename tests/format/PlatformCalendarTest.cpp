@@ -22,34 +22,23 @@ void ForSpreadDates(Check check) {
   }
 }
 
-TEST(PlatformCalendar, BreaksDownAsVarUdateFromDate) {
+TEST(PlatformCalendar, BreaksDownAsVarUdateFromDateAndVariantTimeToSystemTime) {
   ForSpreadDates([](double date) {
-    UDATE platform{};
-    ASSERT_EQ(::VarUdateFromDate(date, 0, &platform), S_OK) << date;
+    UDATE udate{};
+    ASSERT_EQ(::VarUdateFromDate(date, 0, &udate), S_OK) << date;
+    SYSTEMTIME system{};
+    ASSERT_TRUE(::VariantTimeToSystemTime(date, &system)) << date;
     orv::DateParts parts;
     ASSERT_TRUE(orv::BreakDownDate(date, parts)) << date;
-    EXPECT_EQ(parts.year, platform.st.wYear) << date;
-    EXPECT_EQ(parts.month, platform.st.wMonth) << date;
-    EXPECT_EQ(parts.day, platform.st.wDay) << date;
-    EXPECT_EQ(parts.dayOfWeek, platform.st.wDayOfWeek) << date;
-    EXPECT_EQ(parts.hour, platform.st.wHour) << date;
-    EXPECT_EQ(parts.minute, platform.st.wMinute) << date;
-    EXPECT_EQ(parts.second, platform.st.wSecond) << date;
-  });
-}
-
-TEST(PlatformCalendar, BreaksDownAsVariantTimeToSystemTime) {
-  ForSpreadDates([](double date) {
-    SYSTEMTIME platform{};
-    ASSERT_TRUE(::VariantTimeToSystemTime(date, &platform)) << date;
-    orv::DateParts parts;
-    ASSERT_TRUE(orv::BreakDownDate(date, parts)) << date;
-    EXPECT_EQ(parts.year, platform.wYear) << date;
-    EXPECT_EQ(parts.month, platform.wMonth) << date;
-    EXPECT_EQ(parts.day, platform.wDay) << date;
-    EXPECT_EQ(parts.hour, platform.wHour) << date;
-    EXPECT_EQ(parts.minute, platform.wMinute) << date;
-    EXPECT_EQ(parts.second, platform.wSecond) << date;
+    EXPECT_EQ(parts.dayOfWeek, udate.st.wDayOfWeek) << date;
+    for (const SYSTEMTIME& platform : {udate.st, system}) {
+      EXPECT_EQ(parts.year, platform.wYear) << date;
+      EXPECT_EQ(parts.month, platform.wMonth) << date;
+      EXPECT_EQ(parts.day, platform.wDay) << date;
+      EXPECT_EQ(parts.hour, platform.wHour) << date;
+      EXPECT_EQ(parts.minute, platform.wMinute) << date;
+      EXPECT_EQ(parts.second, platform.wSecond) << date;
+    }
   });
 }
 

@@ -125,25 +125,14 @@ TEST(XmlMsxml, DocumentsAreCreatedWithoutCallerInitialisingCom) {
   EXPECT_TRUE(created);
 }
 
-}  // namespace
-
-namespace {
-
-std::string NestedText(int depth) {
-  std::string text;
-  for (int i = 0; i < depth; ++i) text += "<a>";
-  for (int i = 0; i < depth; ++i) text += "</a>";
-  return text;
-}
-
 // The platform parser's own limit, below the layer's guard. msxml3 under Wine 8 takes 257 levels
 // and refuses 258; pugixml has no limit. So the guard alone draws the line at 256, and the parser
 // must not draw it tighter, or a text the guard passes would fail on Windows alone.
 TEST(XmlMsxml, ParserTakesEveryDepthTheGuardPasses) {
   XmlNode document = XmlCreateDocument();
   ASSERT_TRUE(document);
-  EXPECT_TRUE(orv::dom::LoadXml(*document.impl(), NestedText(256)));
-  EXPECT_FALSE(XmlLoadString(document, NestedText(257))) << "the guard refuses what the parser would take";
+  EXPECT_TRUE(orv::dom::LoadXml(*document.impl(), xmltest::Nested(256)));
+  EXPECT_FALSE(XmlLoadString(document, xmltest::Nested(257))) << "the guard refuses what the parser would take";
 }
 
 }  // namespace

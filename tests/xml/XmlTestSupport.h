@@ -33,6 +33,15 @@ inline std::string Markup(const XmlNode& node) {
   return out;
 }
 
+// `depth` nested <a> elements around `inner`.
+inline std::string Nested(int depth, const std::string& inner = "") {
+  std::string text;
+  for (int i = 0; i < depth; ++i) text += "<a>";
+  text += inner;
+  for (int i = 0; i < depth; ++i) text += "</a>";
+  return text;
+}
+
 // Expects `call` to raise XmlComError with `status`.
 template <typename Call>
 void ExpectStatus(orv::Status status, Call call) {

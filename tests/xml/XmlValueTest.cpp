@@ -80,20 +80,10 @@ struct FormatCase {
 
 class FormatValue : public testing::TestWithParam<FormatCase> {};
 
-TEST_P(FormatValue, WritesEachKindAndReadsBack) {
+TEST_P(FormatValue, WritesEachKind) {
   const FormatCase& c = GetParam();
   EXPECT_EQ(XmlFormatValue(c.value, c.kind), c.signedText);
   EXPECT_EQ(XmlFormatValue(static_cast<std::uint32_t>(c.value), c.kind), c.unsignedText);
-  // Whatever a writer wrote, the reader reads (bools only as 0 or 1, colours only 24 bits).
-  std::int32_t back = 0;
-  ASSERT_TRUE(XmlParseValue(XmlFormatValue(c.value, c.kind), back));
-  std::uint32_t backUnsigned = 0;
-  ASSERT_TRUE(XmlParseValue(XmlFormatValue(static_cast<std::uint32_t>(c.value), c.kind), backUnsigned));
-  std::int32_t expected = c.value;
-  if (c.kind == XmlValueKind::Bool) expected = c.value != 0;
-  if (c.kind == XmlValueKind::Color) expected = c.value & 0xFFFFFF;
-  EXPECT_EQ(back, expected);
-  EXPECT_EQ(backUnsigned, static_cast<std::uint32_t>(expected));
 }
 
 INSTANTIATE_TEST_SUITE_P(
