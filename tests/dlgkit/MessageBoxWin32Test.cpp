@@ -74,6 +74,15 @@ void Picture(HWND box, const wchar_t* name) {
   EXPECT_EQ(orv::apps::CaptureWindowToPng(box, name), S_OK) << "screenshot";
 }
 
+// Shows a box captioned "Box", lets `look` see it, then presses OK.
+void LookAndPressOk(const char* text, unsigned flags, const std::function<void(HWND)>& look) {
+  BoxDriver driver([&](HWND box) {
+    look(box);
+    Press(box, IDOK);
+  });
+  OrvMessageBox(nullptr, text, "Box", flags);
+}
+
 class MessageBoxWin32 : public ::testing::Test {
  protected:
   void SetUp() override { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
@@ -121,23 +130,13 @@ TEST_F(MessageBoxWin32, NoButtonIsDefaultWhenTheFlagNamesAThirdOfTwo) {
 TEST_F(MessageBoxWin32, ManyLinesGrowTheBoxAndMoveTheButtonsBelowTheText) {
   SIZE empty{}, tall{};
   RECT text{}, button{};
-  {
-    BoxDriver driver([&](HWND box) {
-      empty = WindowSize(box);
-      Press(box, IDOK);
-    });
-    OrvMessageBox(nullptr, "", "Box", MB_OKCANCEL);
-  }
-  {
-    BoxDriver driver([&](HWND box) {
-      tall = WindowSize(box);
-      text = ChildRect(box, 101);
-      button = ChildRect(box, IDOK);
-      Picture(box, L"msgbox-tall.png");
-      Press(box, IDOK);
-    });
-    OrvMessageBox(nullptr, "One\nTwo\nThree\nFour\nFive\nSix\nSeven\nEight", "Box", MB_OKCANCEL | MB_ICONEXCLAMATION);
-  }
+  LookAndPressOk("", MB_OKCANCEL, [&](HWND box) { empty = WindowSize(box); });
+  LookAndPressOk("One\nTwo\nThree\nFour\nFive\nSix\nSeven\nEight", MB_OKCANCEL | MB_ICONEXCLAMATION, [&](HWND box) {
+    tall = WindowSize(box);
+    text = ChildRect(box, 101);
+    button = ChildRect(box, IDOK);
+    Picture(box, L"msgbox-tall.png");
+  });
   EXPECT_GT(tall.cy, empty.cy + 40);
   EXPECT_LE(text.bottom, button.top) << "the buttons sit below the text";
 }
@@ -145,19 +144,12 @@ TEST_F(MessageBoxWin32, ManyLinesGrowTheBoxAndMoveTheButtonsBelowTheText) {
 TEST_F(MessageBoxWin32, ALongLineWidensTheBoxUpToTheTextWidth) {
   SIZE narrow{}, wide{};
   RECT text{}, client{};
-  {
-    BoxDriver driver([&](HWND box) { narrow = WindowSize(box), Press(box, IDOK); });
-    OrvMessageBox(nullptr, "Short.", "Box", 0);
-  }
-  {
-    BoxDriver driver([&](HWND box) {
-      wide = WindowSize(box);
-      text = ChildRect(box, 101);
-      GetClientRect(box, &client);
-      Press(box, IDOK);
-    });
-    OrvMessageBox(nullptr, "A single line of text that is a good deal wider than one OK button.", "Box", 0);
-  }
+  LookAndPressOk("Short.", 0, [&](HWND box) { narrow = WindowSize(box); });
+  LookAndPressOk("A single line of text that is a good deal wider than one OK button.", 0, [&](HWND box) {
+    wide = WindowSize(box);
+    text = ChildRect(box, 101);
+    GetClientRect(box, &client);
+  });
   EXPECT_GT(wide.cx, narrow.cx);
   EXPECT_LE(text.right, client.right) << "the text is not cut off";
 }
