@@ -15,9 +15,10 @@ inline constexpr WORD kComboBoxClass = 0x0085;
 
 class DialogTemplateBuilder {
  public:
-  DialogTemplateBuilder(const std::string& title, short cx, short cy) {
+  DialogTemplateBuilder(const std::string& title, short cx, short cy,
+                        DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | DS_MODALFRAME | DS_SETFONT) {
     // DLGTEMPLATE: style, extended style, item count (patched in Build), x, y, cx, cy.
-    PutDword(WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | DS_MODALFRAME | DS_SETFONT);
+    PutDword(style);
     PutDword(0);
     words_.push_back(0);
     words_.push_back(10);
@@ -32,19 +33,17 @@ class DialogTemplateBuilder {
   }
 
   void AddItem(WORD classAtom, const std::string& text, WORD id, DWORD style, short x, short y, short cx, short cy) {
-    if (words_.size() % 2) words_.push_back(0);  // items start on a DWORD boundary
-    PutDword(WS_CHILD | WS_VISIBLE | style);
-    PutDword(0);
-    words_.push_back(static_cast<WORD>(x));
-    words_.push_back(static_cast<WORD>(y));
-    words_.push_back(static_cast<WORD>(cx));
-    words_.push_back(static_cast<WORD>(cy));
-    words_.push_back(id);
+    PutItemHeader(id, style, x, y, cx, cy);
     words_.push_back(0xFFFF);
     words_.push_back(classAtom);
-    PutString(text);
-    words_.push_back(0);  // no creation data
-    ++items_;
+    PutItemEnd(text);
+  }
+  // A control of a class known by its name ("SysListView32").
+  void AddItem(const std::string& className, const std::string& text, WORD id, DWORD style, short x, short y, short cx,
+               short cy) {
+    PutItemHeader(id, style, x, y, cx, cy);
+    PutString(className);
+    PutItemEnd(text);
   }
 
   std::vector<WORD> Build() const {
@@ -54,6 +53,21 @@ class DialogTemplateBuilder {
   }
 
  private:
+  void PutItemHeader(WORD id, DWORD style, short x, short y, short cx, short cy) {
+    if (words_.size() % 2) words_.push_back(0);  // items start on a DWORD boundary
+    PutDword(WS_CHILD | WS_VISIBLE | style);
+    PutDword(0);
+    words_.push_back(static_cast<WORD>(x));
+    words_.push_back(static_cast<WORD>(y));
+    words_.push_back(static_cast<WORD>(cx));
+    words_.push_back(static_cast<WORD>(cy));
+    words_.push_back(id);
+  }
+  void PutItemEnd(const std::string& text) {
+    PutString(text);
+    words_.push_back(0);  // no creation data
+    ++items_;
+  }
   void PutDword(DWORD value) {
     words_.push_back(LOWORD(value));
     words_.push_back(HIWORD(value));

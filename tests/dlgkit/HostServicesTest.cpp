@@ -1,5 +1,5 @@
-// The host services: which host is current, help over it, the in-process theme host, and the
-// strictness of the test fake itself.
+// The host services: which host is current, help over it, the in-process theme host, and how
+// often one open asks the host for its settings service.
 #include "dlgkit/HostServices.h"
 
 #include <gtest/gtest.h>

@@ -8,7 +8,6 @@
 
 namespace {
 
-using orv::DialogUnitRect;
 using orv::MessageBoxStyleFromFlags;
 
 std::vector<int> Ids(const orv::MessageBoxStyle& style) {
@@ -35,22 +34,12 @@ TEST(MessageBoxStyle, ButtonsAndCancelByTheLowBits) {
   EXPECT_STREQ(MessageBoxStyleFromFlags(6).buttons[1].text, "&Try Again");
 }
 
-TEST(MessageBoxTemplate, SizesAndPlacesInDialogUnits) {
+TEST(MessageBoxTemplate, TheTextsRoomEndsAboveTheButtonsAndAnIconGivesMore) {
   const auto plain = orv::MessageBoxTemplateFor(MessageBoxStyleFromFlags(4));
-  EXPECT_EQ(plain.cx, 2 * 55 + 25);
-  EXPECT_EQ(plain.cy, 63);
-  EXPECT_EQ(plain.text, (DialogUnitRect{7, 14, 217, 250}));
-  ASSERT_EQ(plain.buttons.size(), 2u);
-  EXPECT_EQ(plain.buttons[0], (DialogUnitRect{24, 43, 51, 14}));
-  EXPECT_EQ(plain.buttons[1], (DialogUnitRect{79, 43, 51, 14}));
-
   const auto withIcon = orv::MessageBoxTemplateFor(MessageBoxStyleFromFlags(0x33));
-  EXPECT_EQ(withIcon.cx, 3 * 55 + 25);
-  EXPECT_EQ(withIcon.cy, 71);
-  EXPECT_EQ(withIcon.icon, (DialogUnitRect{15, 14, 16, 16}));
-  EXPECT_EQ(withIcon.text.x, 37);
-  EXPECT_EQ(withIcon.buttons[2], (DialogUnitRect{134, 51, 51, 14}));
-  // The text's room ends above the buttons.
+  ASSERT_EQ(plain.buttons.size(), 2u);
+  ASSERT_EQ(withIcon.buttons.size(), 3u);
+  EXPECT_LE(plain.text.y + plain.textRoom, plain.buttons[0].y);
   EXPECT_LE(withIcon.text.y + withIcon.textRoom, withIcon.buttons[0].y);
   EXPECT_GT(withIcon.textRoom, plain.textRoom);
 }

@@ -74,6 +74,15 @@ void Picture(HWND box, const wchar_t* name) {
   EXPECT_EQ(orv::apps::CaptureWindowToPng(box, name), S_OK) << "screenshot";
 }
 
+// Shows a box captioned "Box", lets `look` see it, then presses OK.
+void LookAndPressOk(const char* text, unsigned flags, const std::function<void(HWND)>& look) {
+  BoxDriver driver([&](HWND box) {
+    look(box);
+    Press(box, IDOK);
+  });
+  OrvMessageBox(nullptr, text, "Box", flags);
+}
+
 class MessageBoxWin32 : public ::testing::Test {
  protected:
   void SetUp() override { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
@@ -106,20 +115,6 @@ TEST_F(MessageBoxWin32, YesNoCannotBeCancelledAndAnswersByMnemonic) {
   EXPECT_TRUE(closeGray);
 }
 
-TEST_F(MessageBoxWin32, DefaultButtonByFlags) {
-  auto isDefault = [](HWND box, int id) {
-    return (GetWindowLongW(GetDlgItem(box, id), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON;
-  };
-  bool yes = true, no = false;
-  BoxDriver second([&](HWND box) {
-    yes = isDefault(box, IDYES), no = isDefault(box, IDNO);
-    Press(box, IDYES);
-  });
-  EXPECT_EQ(OrvMessageBox(nullptr, "Go on?", "Box", MB_YESNO | MB_DEFBUTTON2), IDYES);
-  EXPECT_FALSE(yes);
-  EXPECT_TRUE(no);
-}
-
 TEST_F(MessageBoxWin32, NoButtonIsDefaultWhenTheFlagNamesAThirdOfTwo) {
   bool anyDefault = true;
   BoxDriver driver([&](HWND box) {
@@ -135,23 +130,13 @@ TEST_F(MessageBoxWin32, NoButtonIsDefaultWhenTheFlagNamesAThirdOfTwo) {
 TEST_F(MessageBoxWin32, ManyLinesGrowTheBoxAndMoveTheButtonsBelowTheText) {
   SIZE empty{}, tall{};
   RECT text{}, button{};
-  {
-    BoxDriver driver([&](HWND box) {
-      empty = WindowSize(box);
-      Press(box, IDOK);
-    });
-    OrvMessageBox(nullptr, "", "Box", MB_OKCANCEL);
-  }
-  {
-    BoxDriver driver([&](HWND box) {
-      tall = WindowSize(box);
-      text = ChildRect(box, 101);
-      button = ChildRect(box, IDOK);
-      Picture(box, L"msgbox-tall.png");
-      Press(box, IDOK);
-    });
-    OrvMessageBox(nullptr, "One\nTwo\nThree\nFour\nFive\nSix\nSeven\nEight", "Box", MB_OKCANCEL | MB_ICONEXCLAMATION);
-  }
+  LookAndPressOk("", MB_OKCANCEL, [&](HWND box) { empty = WindowSize(box); });
+  LookAndPressOk("One\nTwo\nThree\nFour\nFive\nSix\nSeven\nEight", MB_OKCANCEL | MB_ICONEXCLAMATION, [&](HWND box) {
+    tall = WindowSize(box);
+    text = ChildRect(box, 101);
+    button = ChildRect(box, IDOK);
+    Picture(box, L"msgbox-tall.png");
+  });
   EXPECT_GT(tall.cy, empty.cy + 40);
   EXPECT_LE(text.bottom, button.top) << "the buttons sit below the text";
 }
@@ -159,19 +144,12 @@ TEST_F(MessageBoxWin32, ManyLinesGrowTheBoxAndMoveTheButtonsBelowTheText) {
 TEST_F(MessageBoxWin32, ALongLineWidensTheBoxUpToTheTextWidth) {
   SIZE narrow{}, wide{};
   RECT text{}, client{};
-  {
-    BoxDriver driver([&](HWND box) { narrow = WindowSize(box), Press(box, IDOK); });
-    OrvMessageBox(nullptr, "Short.", "Box", 0);
-  }
-  {
-    BoxDriver driver([&](HWND box) {
-      wide = WindowSize(box);
-      text = ChildRect(box, 101);
-      GetClientRect(box, &client);
-      Press(box, IDOK);
-    });
-    OrvMessageBox(nullptr, "A single line of text that is a good deal wider than one OK button.", "Box", 0);
-  }
+  LookAndPressOk("Short.", 0, [&](HWND box) { narrow = WindowSize(box); });
+  LookAndPressOk("A single line of text that is a good deal wider than one OK button.", 0, [&](HWND box) {
+    wide = WindowSize(box);
+    text = ChildRect(box, 101);
+    GetClientRect(box, &client);
+  });
   EXPECT_GT(wide.cx, narrow.cx);
   EXPECT_LE(text.right, client.right) << "the text is not cut off";
 }
@@ -228,7 +206,7 @@ TEST_F(MessageBoxWin32, AnInvisibleOwnerCountsAsNone) {
 }
 
 // Enter, as the keyboard gives it to the focused control and the dialog manager reads it,
-// answers with the button the flags name as default, whichever its place, and that button has
+// answers with the button the flags name as default (the only default one), whichever its place, and that button has
 // the focus from the start.
 struct EnterCase {
   const char* name;
@@ -256,6 +234,7 @@ TEST_P(MessageBoxEnter, AnswersWithTheDefaultButton) {
   }
   int focused = -1;
   bool defaultStyle = false;
+  int defaults = 0;
   orv::test::PostedWork work;
   // Posted before the box exists: it runs from the box's own loop once the box is up.
   work.Post([&] {
@@ -265,6 +244,8 @@ TEST_P(MessageBoxEnter, AnswersWithTheDefaultButton) {
     ASSERT_NE(GetDlgItem(box, 101), nullptr) << "the focus is in the box";
     focused = GetDlgCtrlID(focus);
     defaultStyle = (GetWindowLongW(GetDlgItem(box, c.answer), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON;
+    for (int id = IDOK; id <= IDCONTINUE; ++id)
+      defaults += (GetWindowLongW(GetDlgItem(box, id), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON;
     if (c.picture) Picture(box, c.picture);
     PostMessageW(focus, WM_KEYDOWN, VK_RETURN, MAKELPARAM(1, MapVirtualKeyW(VK_RETURN, 0)));
   });
@@ -273,6 +254,7 @@ TEST_P(MessageBoxEnter, AnswersWithTheDefaultButton) {
   EXPECT_EQ(work.Pending(), 0u) << "the box was never up";
   EXPECT_EQ(focused, c.answer);
   EXPECT_TRUE(defaultStyle);
+  EXPECT_EQ(defaults, 1) << "no other button is default";
   EXPECT_EQ(answer, c.answer);
 }
 

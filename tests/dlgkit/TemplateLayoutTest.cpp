@@ -77,38 +77,6 @@ TEST(TemplateLayout, EachStatementGivesItsKindTextAndRectangle) {
   }
 }
 
-struct Styles {
-  int id;
-  bool visible, enabled, group, threeState, automatic, readOnly, number;
-};
-
-TEST(TemplateLayout, StylesAreTakenFromTheStatementAndItsFlags) {
-  const Styles rows[] = {
-      // id                        visible enabled group  3state auto   ro     number
-      {IDC_FIXTURE_NAME, true, true, false, false, true, true, false},
-      {IDC_FIXTURE_COUNT, true, true, true, false, true, false, true},
-      {IDC_FIXTURE_SHOWN, true, true, false, false, true, false, false},
-      {IDC_FIXTURE_MIXED, true, true, false, true, true, false, false},
-      {IDC_FIXTURE_MIXED_CONTROL, true, true, false, true, true, false, false},
-      {IDC_FIXTURE_PLAIN_BOX, true, true, false, false, true, false, false},
-      {IDC_FIXTURE_A, true, true, true, false, true, false, false},
-      {IDC_FIXTURE_D, true, true, false, false, false, false, false},
-      {IDC_FIXTURE_HIDDEN, false, true, false, false, true, false, false},
-      {IDC_FIXTURE_OFF, true, false, false, false, true, false, false},
-  };
-  for (const Styles& s : rows) {
-    SCOPED_TRACE(Row(s.id).line);
-    const TemplateControl& c = Row(s.id);
-    EXPECT_EQ(c.visible, s.visible);
-    EXPECT_EQ(c.enabled, s.enabled);
-    EXPECT_EQ(c.group, s.group);
-    EXPECT_EQ(c.threeState, s.threeState);
-    EXPECT_EQ(c.automatic, s.automatic);
-    EXPECT_EQ(c.edit.readOnly, s.readOnly);
-    EXPECT_EQ(c.edit.number, s.number);
-  }
-}
-
 class FixtureDialog : public ::testing::Test {
  protected:
   FixtureDialog() { AddTemplateControls(Fixture(), controls); }

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "DialogHostTemplate.h"
 #include "dlgkit/HostServicesInProcess.h"
 #include "dlgkit/OrvDialog.h"
 #include "dlgkit/win32/ThemedControlsWin32.h"
@@ -49,77 +50,24 @@ LRESULT CALLBACK ColorWndProc(HWND window, UINT message, WPARAM wParam, LPARAM l
   return DefWindowProcA(window, message, wParam, lParam);
 }
 
-// A dialog template built in memory: DLGTEMPLATE and DLGITEMTEMPLATEs, DWORD aligned.
-class TemplateBuilder {
- public:
-  TemplateBuilder(const char* title, short cx, short cy) {
-    Dword(DS_SETFONT | DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU);
-    Dword(0);
-    countAt_ = words_.size();
-    Word(0);
-    Word(10);
-    Word(10);
-    Word(static_cast<WORD>(cx));
-    Word(static_cast<WORD>(cy));
-    Word(0);  // menu
-    Word(0);  // class
-    Text(title);
-    Word(8);
-    Text("MS Shell Dlg");
-  }
-  void Item(WORD classOrdinal, const char* className, const char* text, DWORD style, short x, short y, short cx,
-            short cy, WORD id) {
-    if (words_.size() % 2) Word(0);
-    Dword(style | WS_CHILD | WS_VISIBLE);
-    Dword(0);
-    Word(static_cast<WORD>(x));
-    Word(static_cast<WORD>(y));
-    Word(static_cast<WORD>(cx));
-    Word(static_cast<WORD>(cy));
-    Word(id);
-    if (className)
-      Text(className);
-    else {
-      Word(0xFFFF);
-      Word(classOrdinal);
-    }
-    Text(text);
-    Word(0);
-    ++words_[countAt_];
-  }
-  const DLGTEMPLATE* get() const { return reinterpret_cast<const DLGTEMPLATE*>(words_.data()); }
-
- private:
-  void Word(WORD w) { words_.push_back(w); }
-  void Dword(DWORD d) {
-    Word(LOWORD(d));
-    Word(HIWORD(d));
-  }
-  void Text(const char* text) {
-    for (; *text; ++text) Word(static_cast<unsigned char>(*text));
-    Word(0);
-  }
-  std::vector<WORD> words_;
-  size_t countAt_ = 0;
-};
-
-TemplateBuilder OneOfEach() {
-  TemplateBuilder t("Theme", 260, 190);
-  t.Item(0x80, nullptr, "&Push", BS_PUSHBUTTON | WS_TABSTOP, 8, 8, 60, 16, kIdPush);
-  t.Item(0x80, nullptr, "&Check", BS_AUTOCHECKBOX | WS_TABSTOP, 8, 30, 70, 12, kIdCheck);
-  t.Item(0x80, nullptr, "&Radio", BS_AUTORADIOBUTTON | WS_TABSTOP, 8, 46, 70, 12, kIdRadio);
-  t.Item(0x80, nullptr, "Group", BS_GROUPBOX, 4, 64, 120, 40, kIdGroup);
-  t.Item(0x80, nullptr, "", BS_OWNERDRAW, 10, 78, 30, 14, kIdOwnerDraw);
-  t.Item(0x81, nullptr, "edit text", ES_LEFT | WS_BORDER | WS_TABSTOP, 130, 8, 70, 14, kIdEdit);
-  t.Item(0, "msctls_updown32", "", UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_ARROWKEYS, 200, 8, 10, 14, kIdUpDown);
-  t.Item(0x82, nullptr, "Left static", SS_LEFT, 130, 28, 60, 10, kIdStaticLeft);
-  t.Item(0x82, nullptr, "Right static", SS_RIGHT, 190, 28, 60, 10, kIdStaticRight);
-  t.Item(0x85, nullptr, "", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, 130, 42, 80, 60, kIdCombo);
-  t.Item(0x83, nullptr, "", WS_BORDER | WS_VSCROLL, 130, 60, 60, 44, kIdList);
-  t.Item(0, "SysListView32", "", LVS_REPORT | WS_BORDER, 4, 110, 120, 50, kIdListView);
-  t.Item(0, "SysTabControl32", "", 0, 130, 108, 120, 52, kIdTab);
-  t.Item(0, "ColorWnd", "", 0, 200, 60, 20, 14, kIdColorWnd);
-  return t;
+std::vector<WORD> OneOfEach() {
+  orv::test::DialogTemplateBuilder t("Theme", 260, 190,
+                                     DS_SETFONT | DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU);
+  t.AddItem(0x80, "&Push", kIdPush, BS_PUSHBUTTON | WS_TABSTOP, 8, 8, 60, 16);
+  t.AddItem(0x80, "&Check", kIdCheck, BS_AUTOCHECKBOX | WS_TABSTOP, 8, 30, 70, 12);
+  t.AddItem(0x80, "&Radio", kIdRadio, BS_AUTORADIOBUTTON | WS_TABSTOP, 8, 46, 70, 12);
+  t.AddItem(0x80, "Group", kIdGroup, BS_GROUPBOX, 4, 64, 120, 40);
+  t.AddItem(0x80, "", kIdOwnerDraw, BS_OWNERDRAW, 10, 78, 30, 14);
+  t.AddItem(0x81, "edit text", kIdEdit, ES_LEFT | WS_BORDER | WS_TABSTOP, 130, 8, 70, 14);
+  t.AddItem("msctls_updown32", "", kIdUpDown, UDS_ALIGNRIGHT | UDS_SETBUDDYINT | UDS_ARROWKEYS, 200, 8, 10, 14);
+  t.AddItem(0x82, "Left static", kIdStaticLeft, SS_LEFT, 130, 28, 60, 10);
+  t.AddItem(0x82, "Right static", kIdStaticRight, SS_RIGHT, 190, 28, 60, 10);
+  t.AddItem(0x85, "", kIdCombo, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, 130, 42, 80, 60);
+  t.AddItem(0x83, "", kIdList, WS_BORDER | WS_VSCROLL, 130, 60, 60, 44);
+  t.AddItem("SysListView32", "", kIdListView, LVS_REPORT | WS_BORDER, 4, 110, 120, 50);
+  t.AddItem("SysTabControl32", "", kIdTab, 0, 130, 108, 120, 52);
+  t.AddItem("ColorWnd", "", kIdColorWnd, 0, 200, 60, 20, 14);
+  return t.Build();
 }
 
 class ThemedDialog : public COrvDialog<ThemedDialog> {
@@ -240,8 +188,8 @@ class OrvDialogWin32Test : public ::testing::Test {
   }
 
   HWND Create(ThemedDialog& dialog) {
-    HWND window = CreateDialogIndirectParamA(GetModuleHandleA(nullptr), templ_.get(), nullptr, TestDialogProc,
-                                             reinterpret_cast<LPARAM>(&dialog));
+    HWND window = CreateDialogIndirectParamA(GetModuleHandleA(nullptr), orv::test::AsTemplate(templ_), nullptr,
+                                             TestDialogProc, reinterpret_cast<LPARAM>(&dialog));
     if (window) {
       ShowWindow(window, SW_SHOWNORMAL);
       UpdateWindow(window);
@@ -256,7 +204,7 @@ class OrvDialogWin32Test : public ::testing::Test {
     return nullptr;
   }
 
-  TemplateBuilder templ_ = OneOfEach();
+  std::vector<WORD> templ_ = OneOfEach();
 };
 
 bool SubclassedBy(HWND window, const COrvThemedControl* control) {

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -28,11 +29,7 @@ LRESULT CALLBACK PlatformSubclass(HWND window, UINT message, WPARAM wParam, LPAR
   return DefSubclassProc(window, message, wParam, lParam);
 }
 
-bool Saw(const Seen& seen, UINT message) {
-  for (UINT m : seen.messages)
-    if (m == message) return true;
-  return false;
-}
+bool Saw(const Seen& seen, UINT message) { return std::ranges::find(seen.messages, message) != seen.messages.end(); }
 
 struct Kind {
   const char* name;
@@ -122,7 +119,7 @@ TEST_P(WindowSubclassWin32Test, RemovedUnderAPlatformSubclassPassesThrough) {
   EXPECT_TRUE(seen.messages.empty());
 }
 
-TEST_P(WindowSubclassWin32Test, RefusesAnotherThreadsWindowAndNoWindow) {
+TEST(WindowSubclassWin32, RefusesAnotherThreadsWindowAndNoWindow) {
   Seen seen;
   EXPECT_FALSE(orv::SubclassWindowProc(nullptr, &Recorder, &seen));
   HWND desktop = GetDesktopWindow();  // not this thread's
