@@ -1,7 +1,8 @@
-// Any text as the host's document for the position pages of the trendline family: the sheet
-// builds them, gets no chart, a daily or an intraday one (by the text's length), and a user
-// visits every tab, edits what is reachable (value, vertex, snap, spin, extend boxes, lock) and
-// presses OK, then Cancel if a page refused. Refusals are XmlComError; nothing else may escape,
+// Any text as the host's document for the line study sheet: the sheet builds its pages (the
+// position pages of the trendline family, the Advanced page), gets no chart, a daily or an
+// intraday one (by the text's length), and a user visits every tab, edits what is reachable
+// (value, vertex, snap, spin, extend boxes, lock, the Advanced page's choice) and presses OK,
+// then Cancel if a page refused. Refusals are XmlComError; nothing else may escape,
 // and nothing may crash, hang or leak. Every event must be a document the layer reads back.
 
 #include <cstddef>
@@ -49,7 +50,7 @@ void PlayUser(orv::FakeControls& c, std::size_t seed) {
     c.ClickSpin(IDC_LS_INTRA_SPIN, -2);
   }
   for (int id : {IDC_LS_DAY_EXTEND_LEFT, IDC_LS_DAY_EXTEND_RIGHT, IDC_LS_INTRA_EXTEND_LEFT, IDC_LS_INTRA_EXTEND_RIGHT,
-                 IDC_LS_POS_LOCK}) {
+                 IDC_LS_POS_LOCK, IDC_LS_ATTACH_CHART}) {
     if (Reachable(c, id)) c.Click(id);
   }
   if (Reachable(c, IDC_LS_LRC_MULTIPLIER)) c.TypeText(IDC_LS_LRC_MULTIPLIER, "x<&>\"");

@@ -13,8 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "FakeSheetOwner.h"
-#include "LsPageLayouts.h"
+#include "LsSheetRun.h"
 #include "LsTestXml.h"
 #include "dlgkit/ChartData.h"
 #include "dlgkit/fake/HeadlessSheetRunner.h"
@@ -199,7 +198,7 @@ TEST(HostGuide, EveryBlockIsCheckedAndEveryExampleComplete) {
 }
 
 TEST(HostGuide, LineStudyExamplesSendWhatTheGuideSays) {
-  int run = 0;
+  int played = 0;
   for (const auto& [name, e] : ReadGuide(kGuide).examples) {
     SCOPED_TRACE("example " + name);
     // The choice of sheet by name is the component's, under Wine; here the line study sheet alone.
@@ -208,30 +207,21 @@ TEST(HostGuide, LineStudyExamplesSendWhatTheGuideSays) {
     if (sheetNode) XmlGetAttr(sheetNode, "Name", sheetName);
     if (sheetName != "LSPs") continue;
 
-    lstest::FakeSheetOwner owner;
-    CLsPs<lstest::FakeSheetOwner> sheet(&owner);
-    HeadlessSheetRunner runner;
-    lstest::SetLsLayouts(runner);
-    sheet.InitFromXml(sheetNode);
-    if (e.chart != "none") {
-      sheet.SetChartData(HostChart(e.chart == "intraday"));
-    }
+    orv::ChartDataRef chart;
+    if (e.chart != "none") chart = HostChart(e.chart == "intraday");
     const auto commands = Commands(e.user);
-    runner.SetScript([&](HeadlessSheetRunner& r) { Play(r, commands); });
-    const std::intptr_t result = sheet.DoModal(runner);
-
-    std::vector<std::string> events;
-    for (const auto& event : owner.events) {
+    lstest::SheetRun run;
+    const std::intptr_t result = run.Run(e.request, chart, [&](HeadlessSheetRunner& r) { Play(r, commands); });
+    for (const auto& event : run.owner.events) {
       EXPECT_EQ(event.type, 0);
       EXPECT_EQ(event.lValue, 0);
       EXPECT_EQ(event.xmlExtra, "");
-      events.push_back(lstest::Compact(event.value));
     }
-    EXPECT_EQ(events, ExpectedEvents(e.events));
+    EXPECT_EQ(run.Events(), ExpectedEvents(e.events));
     EXPECT_EQ(std::to_string(result), e.returns);
-    ++run;
+    ++played;
   }
-  EXPECT_GT(run, 0);
+  EXPECT_GT(played, 0);
 }
 
 }  // namespace

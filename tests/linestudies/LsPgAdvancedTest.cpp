@@ -4,6 +4,9 @@
 
 #include <string>
 
+#include "FakeSheetOwner.h"
+#include "LsPageLayouts.h"
+#include "LsTestXml.h"
 #include "dlgkit/fake/ControlsFake.h"
 #include "dlgkit/fake/HeadlessRunner.h"
 #include "linestudies/LsPgAdvanced.h"
@@ -11,13 +14,8 @@
 
 namespace {
 
+using lstest::PageNode;
 using orv::FakeControls;
-
-XmlNode PageIn(const std::string& text) {
-  XmlNode document = XmlCreateDocument();
-  EXPECT_TRUE(XmlLoadString(document, text)) << text;
-  return XmlFindNode(document, "PropertyPage", true);
-}
 
 std::string Sheet(const std::string& kind, const std::string& page) {
   return "<PropertySheet Name=\"LSPs\"" + kind + "><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\">" + page +
@@ -28,11 +26,7 @@ std::string Saved(CLsPgAdvanced& page) {
   XmlNode document = XmlCreateDocument();
   XmlNode element = XmlAddChild(document, "PropertyPage");
   page.Save(element);
-  std::string text = XmlGetXml(element);
-  std::string out;
-  for (char c : text)
-    if (c != '\r' && c != '\n' && c != '\t') out += c;
-  return out;
+  return lstest::Compact(XmlGetXml(element));
 }
 
 struct Case {
@@ -53,32 +47,34 @@ TEST(LsPgAdvanced, LoadDerivesAttachAndSaveWritesBothFlags) {
   };
   for (const Case& c : cases) {
     CLsPgAdvanced page;
-    EXPECT_TRUE(page.Load(PageIn(Sheet(" Kind=\"6\"", c.children))));
+    EXPECT_TRUE(page.Load(PageNode(Sheet(" Kind=\"6\"", c.children))));
     EXPECT_EQ(page.AttachValue(), c.attach) << c.children;
     EXPECT_FALSE(page.IsDirty());
   }
   CLsPgAdvanced screen;
-  screen.Load(PageIn(Sheet("", "<AlwaysVisible>FALSE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch>")));
+  screen.Load(PageNode(Sheet("", "<AlwaysVisible>FALSE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch>")));
   EXPECT_EQ(Saved(screen),
             "<PropertyPage><AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch></PropertyPage>");
   CLsPgAdvanced chart;
-  chart.Load(PageIn(Sheet("", "<AlwaysVisible>TRUE</AlwaysVisible>")));
+  chart.Load(PageNode(Sheet("", "<AlwaysVisible>TRUE</AlwaysVisible>")));
   EXPECT_EQ(Saved(chart),
             "<PropertyPage><AlwaysVisible>TRUE</AlwaysVisible><LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch></PropertyPage>");
 }
 
 TEST(LsPgAdvanced, KindComesFromTheSheetTwoLevelsUpAndItsAbsenceRaises) {
   CLsPgAdvanced page;
-  page.Load(PageIn(Sheet(" Kind=\"6\"", "")));
+  page.Load(PageNode(Sheet(" Kind=\"6\"", "")));
   EXPECT_EQ(page.Kind(), 6);
   CLsPgAdvanced noKind;
-  noKind.Load(PageIn(Sheet("", "")));
+  noKind.Load(PageNode(Sheet("", "")));
   EXPECT_EQ(noKind.Kind(), 0);
 
   // A PropertyPage at the top of its document has no PropertySheet above it.
   CLsPgAdvanced orphan;
   try {
-    orphan.Load(PageIn("<PropertyPage Name=\"LsPgAdvanced\"/>"));
+    XmlNode document = XmlCreateDocument();
+    XmlLoadString(document, "<PropertyPage Name=\"LsPgAdvanced\"/>");
+    orphan.Load(XmlFindNode(document, "PropertyPage", true));
     ADD_FAILURE() << "no exception";
   } catch (const XmlComError& error) {
     EXPECT_EQ(error.status(), orv::kStatusPointer);
@@ -89,9 +85,8 @@ TEST(LsPgAdvanced, KindComesFromTheSheetTwoLevelsUpAndItsAbsenceRaises) {
 class AdvancedOnSheet : public ::testing::Test {
  protected:
   void Open(const std::string& kind, const std::string& children) {
-    controls.AddRadio(IDC_LS_ATTACH_SYMBOL, 1).AddRadio(IDC_LS_ATTACH_CHART, 1).AddRadio(IDC_LS_ATTACH_SCREEN, 1);
-    controls.Control(IDC_LS_ATTACH_SCREEN).visible = false;
-    page.Load(PageIn(Sheet(kind, children)));
+    lstest::LsPageLayout(IDD_LS_PG_ADVANCED, controls);
+    page.Load(PageNode(Sheet(kind, children)));
     runner.AddPage(page, controls);
     runner.SetPageApplyHandler([this](int id) {
       applies.push_back(id);

@@ -68,6 +68,7 @@ TEST(LsTrendlinePages, EachPageSendsBackWhatItReadWithTheUsersChange) {
   const Pt i0Moved{11, 101.5, bars[11].date, bars[11].minutes, bars[11].seconds, -1};
   const Pt d0{-1, 101.5, kJune3, 0, 0, -1};
   const Pt d1{-1, 99.25, kJune20, 0, 0, 2};
+  const Pt d0June20{-1, 101.5, kJune20, 0, 0, -1};
   auto clickLock = [](FakeControls& c) { c.Click(IDC_LS_POS_LOCK); };
   const std::string ext12 = "<LSTrl_Extendpt1>1</LSTrl_Extendpt1><LSTrl_Extendpt2>2</LSTrl_Extendpt2>";
   const std::string ext2 = "<LSTrl_Extendpt2>1</LSTrl_Extendpt2>";
@@ -80,13 +81,21 @@ TEST(LsTrendlinePages, EachPageSendsBackWhatItReadWithTheUsersChange) {
        Trendline("CTrendline", false, {i0, i1}, ext12), clickLock, "<MaxPos>233</MaxPos>"},
       {"LsPgDayHorz", 1318, Trendline("CTrendline", true, {d0}, ""), Trendline("CTrendline", false, {d0}, ""),
        clickLock, "<Mean>50</Mean>"},
-      {"LsPgDayVert", 1319, Trendline("CTrendline", true, {d0}, ""), Trendline("CTrendline", false, {d0}, ""),
-       clickLock},
+      // A date typed in the picker goes back like one picked from the calendar.
+      {"LsPgDayVert", 1319, Trendline("CTrendline", true, {d0}, ""), Trendline("CTrendline", true, {d0June20}, ""),
+       [](FakeControls& c) {
+         c.PickDate(IDC_LS_DAY_DATE, orv::DateTime{2024, 6, 20});
+       }},
       // No value and no lock box: the user moves the bar.
       {"LsPgIntraVert", 1327, Trendline("CTrendline", true, {i0}, ""), Trendline("CTrendline", true, {i0Moved}, ""),
        [](FakeControls& c) { c.ClickSpin(IDC_LS_INTRA_SPIN, 1); }, "<MaxPos>233</MaxPos>"},
+      // The multiplier is text, cut to what the box takes; the day channel's value is read-only.
       {"LsPgDayLRC", 1365, Trendline("CLinRegChan", true, {d0, d1}, ext12 + mult),
-       Trendline("CLinRegChan", false, {d0, d1}, ext12 + mult), clickLock},
+       Trendline("CLinRegChan", true, {d0, d1}, ext12 + "<Multiplier>two &amp; a half, more than thirty-</Multiplier>"),
+       [](FakeControls& c) {
+         EXPECT_FALSE(c.IsDlgItemEnabled(IDC_LS_DAY_VALUE));
+         c.TypeText(IDC_LS_LRC_MULTIPLIER, "two & a half, more than thirty-one characters long");
+       }},
       {"LsPgIntraLRC", 1366, Trendline("CLinRegChan", true, {i0, i1}, ext12 + mult),
        Trendline("CLinRegChan", false, {i0, i1}, ext12 + mult), clickLock, "<MaxPos>233</MaxPos>"},
       {"LsPgDayVWAP", 1363, Trendline("VolWgtAvgPrice", true, {d0, d1}, ext2),
@@ -175,18 +184,6 @@ TEST(LsTrendlinePages, ADateBetweenBarsIsRefusedAndATradingDayAccepted) {
           });
   ASSERT_EQ(run.Events().size(), 1u);
   EXPECT_NE(run.Events()[0].find(orv::StrFormat("<XY_lDate>%d</XY_lDate>", kChristmas + 1)), std::string::npos);
-}
-
-TEST(LsTrendlinePages, ADateTypedInThePickerIsSentLikeOnePickedFromTheCalendar) {
-  SheetRun run;
-  run.Run(SheetXml("LsPgDayVert", StudyXml(false, {Pt{-1, 5, kJune3}})), SyntheticChartData::Daily(),
-          [](HeadlessSheetRunner& r) {
-            r.Tab(0).PickDate(IDC_LS_DAY_DATE, orv::DateTime{2024, 6, 20});
-            EXPECT_TRUE(r.Tab(0).IsSheetChanged());
-            EXPECT_TRUE(r.Sheet().PressOk());
-          });
-  EXPECT_EQ(run.Events(), std::vector<std::string>{
-                              EventXml("LsPgDayVert", Trendline("CTrendline", false, {Pt{-1, 5, kJune20}}, ""))});
 }
 
 // --- snapping ---
@@ -447,20 +444,6 @@ TEST(LsTrendlinePages, ExtendBoxesHoldZeroToTwoAndCountAsChanges) {
   }
 }
 
-TEST(LsTrendlinePages, AnExtendOfTwoGoesBackAsTwoWhenTheUserChangesSomethingElse) {
-  const std::string extends = "<LSTrl_Extendpt1>2</LSTrl_Extendpt1><LSTrl_Extendpt2>2</LSTrl_Extendpt2>";
-  SheetRun run;
-  run.Run(SheetXml("LsPgDayLRC", "<CLinRegChan>" + StudyXml(true, {Pt{-1, 5, kJune3}}) + extends +
-                                     "<Multiplier>2</Multiplier></CLinRegChan>"),
-          SyntheticChartData::Daily(), [](HeadlessSheetRunner& r) {
-            r.Tab(0).Click(IDC_LS_POS_LOCK);
-            EXPECT_TRUE(r.Sheet().PressOk());
-          });
-  EXPECT_EQ(run.Events(),
-            std::vector<std::string>{EventXml("LsPgDayLRC", Trendline("CLinRegChan", false, {Pt{-1, 5, kJune3}},
-                                                                      extends + "<Multiplier>2</Multiplier>"))});
-}
-
 TEST(LsTrendlinePages, HorizontalLineOnAvgCloseStandsAtTheMean) {
   const std::string snaps = SnapXml({0, 1, 5});
   // Loaded on "Avg Close": the mean, whatever the value said, and no change of the user's.
@@ -486,25 +469,6 @@ TEST(LsTrendlinePages, HorizontalLineOnAvgCloseStandsAtTheMean) {
   EXPECT_EQ(chosen.Events(),
             std::vector<std::string>{
                 EventXml("LsPgDayHorz", Trendline("CTrendline", false, {Pt{-1, 42.5, kJune3, 0, 0, 256}}, ""))});
-}
-
-TEST(LsTrendlinePages, ChannelMultiplierIsTextAndTheDayChannelsValueIsReadOnly) {
-  SheetRun run;
-  run.Run(SheetXml("LsPgDayLRC",
-                   "<CLinRegChan>" + StudyXml(false, {Pt{-1, 5, kJune3}}) + "<Multiplier>2</Multiplier></CLinRegChan>"),
-          SyntheticChartData::Daily(), [](HeadlessSheetRunner& r) {
-            FakeControls& c = r.Tab(0);
-            EXPECT_FALSE(c.IsDlgItemEnabled(IDC_LS_DAY_VALUE));
-            EXPECT_EQ(c.GetDlgItemTextA(IDC_LS_LRC_MULTIPLIER, 64), "2");
-            c.TypeText(IDC_LS_LRC_MULTIPLIER, "two & a half, more than thirty-one characters long");
-            EXPECT_EQ(c.GetDlgItemTextA(IDC_LS_LRC_MULTIPLIER, 64), "two & a half, more than thirty-")
-                << "the box takes what is sent, no more";
-            EXPECT_TRUE(c.IsSheetChanged());
-            EXPECT_TRUE(r.Sheet().PressOk());
-          });
-  ASSERT_EQ(run.Events().size(), 1u);
-  EXPECT_NE(run.Events()[0].find("<Multiplier>two &amp; a half, more than thirty-</Multiplier>"), std::string::npos)
-      << run.Events()[0];
 }
 
 // A multiplier longer than the box: the box shows what would be sent; a page the user leaves
@@ -533,30 +497,8 @@ TEST(LsTrendlinePages, ALongMultiplierIsShownAsItWouldBeSent) {
   }
 }
 
-TEST(LsTrendlinePages, ABadValueBeepsAndKeepsThePageWithoutAMessage) {
-  SheetRun run;
-  run.Run(SheetXml("LsPgIntraTrend", StudyXml(false, {Pt{4, 5}})), SyntheticChartData::Intraday(),
-          [](HeadlessSheetRunner& r) {
-            FakeControls& c = r.Tab(0);
-            c.TypeText(IDC_LS_INTRA_VALUE, "12,5");
-            c.SetFocus(IDC_LS_INTRA_TREND_SNAP);
-            EXPECT_FALSE(r.Sheet().PressOk());
-            EXPECT_EQ(c.Beeps(), std::vector<unsigned>{orv::kBeepSimple});
-            EXPECT_EQ(c.GetFocus(), IDC_LS_INTRA_VALUE);
-            EXPECT_TRUE(c.MessageBoxes().empty());
-            c.TypeText(IDC_LS_INTRA_VALUE, "12.5");
-            EXPECT_TRUE(r.Sheet().PressOk());
-          });
-  EXPECT_EQ(run.owner.events.size(), 1u);
-}
-
-TEST(LsTrendlinePages, ApplySendsAChangedPageOnceAndAnUnchangedOneNever) {
-  // Shown and left alone: the page validates and sends nothing.
-  SheetRun untouched;
-  untouched.Run(SheetXml("LsPgDayTrend", StudyXml(false, {Pt{-1, 5, kJune3}})), SyntheticChartData::Daily(),
-                [](HeadlessSheetRunner& r) { EXPECT_TRUE(r.Sheet().PressOk()); });
-  EXPECT_TRUE(untouched.owner.events.empty());
-
+// An unchanged page sends nothing: TheLockBoxShowsOnlyWhenTheStudyHasALock presses OK on several.
+TEST(LsTrendlinePages, ApplySendsAChangedPageOnce) {
   SheetRun twice;
   twice.Run(SheetXml("LsPgDayTrend", StudyXml(false, {Pt{-1, 5, kJune3}})), SyntheticChartData::Daily(),
             [&](HeadlessSheetRunner& r) {
@@ -612,29 +554,36 @@ TEST(LsTrendlinePages, TheLockBoxShowsOnlyWhenTheStudyHasALock) {
             std::vector<std::string>{EventXml("LsPgDayHorz", Trendline("CTrendline", false, {Pt{-1, 6, kJune3}}, ""))});
 }
 
-TEST(LsTrendlinePages, ABadValueOnADayPageBeepsAndKeepsThePageWithoutAMessage) {
+TEST(LsTrendlinePages, ABadValueBeepsAndKeepsThePageWithoutAMessage) {
   struct Case {
     const char* name;
     const char* typed;
   };
-  const Case cases[] = {{"LsPgDayTrend", "12,5"}, {"LsPgDayHorz", ".0"}, {"LsPgDayVWAP", "1.5x"}, {"LsPgDayTrend", ""}};
+  const Case cases[] = {{"LsPgDayTrend", "12,5"},
+                        {"LsPgDayHorz", ".0"},
+                        {"LsPgDayVWAP", "1.5x"},
+                        {"LsPgDayTrend", ""},
+                        {"LsPgIntraTrend", "12,5"}};
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string(c.name) + " \"" + c.typed + "\"");
+    const bool intra = std::string(c.name) == "LsPgIntraTrend";
+    const int value = intra ? IDC_LS_INTRA_VALUE : IDC_LS_DAY_VALUE;
+    const std::vector<Pt> points =
+        intra ? std::vector<Pt>{Pt{4, 5}} : std::vector<Pt>{{-1, 5, kJune3}, {-1, 6, kJune20}};
     SheetRun run;
-    run.Run(
-        SheetXml(c.name, "<VertexButtons Show=\"Yes\"/>" + StudyXml(false, {Pt{-1, 5, kJune3}, Pt{-1, 6, kJune20}})),
-        SyntheticChartData::Daily(), [&](HeadlessSheetRunner& r) {
-          FakeControls& tab = r.Tab(0);
-          tab.TypeText(IDC_LS_DAY_VALUE, c.typed);
-          tab.SetFocus(IDC_LS_POS_LOCK);
-          EXPECT_FALSE(r.Sheet().PressOk()) << "the page keeps the user";
-          EXPECT_EQ(tab.Beeps(), std::vector<unsigned>{orv::kBeepSimple});
-          EXPECT_EQ(tab.GetFocus(), IDC_LS_DAY_VALUE);
-          EXPECT_TRUE(tab.MessageBoxes().empty());
-          EXPECT_TRUE(r.Sheet().IsRunning());
-          tab.TypeText(IDC_LS_DAY_VALUE, "12.5");
-          EXPECT_TRUE(r.Sheet().PressOk());
-        });
+    run.Run(SheetXml(c.name, "<VertexButtons Show=\"Yes\"/>" + StudyXml(false, points)),
+            intra ? SyntheticChartData::Intraday() : SyntheticChartData::Daily(), [&](HeadlessSheetRunner& r) {
+              FakeControls& tab = r.Tab(0);
+              tab.TypeText(value, c.typed);
+              tab.SetFocus(IDC_LS_POS_LOCK);
+              EXPECT_FALSE(r.Sheet().PressOk()) << "the page keeps the user";
+              EXPECT_EQ(tab.Beeps(), std::vector<unsigned>{orv::kBeepSimple});
+              EXPECT_EQ(tab.GetFocus(), value);
+              EXPECT_TRUE(tab.MessageBoxes().empty());
+              EXPECT_TRUE(r.Sheet().IsRunning());
+              tab.TypeText(value, "12.5");
+              EXPECT_TRUE(r.Sheet().PressOk());
+            });
     ASSERT_EQ(run.Events().size(), 1u);
     EXPECT_NE(run.Events()[0].find("<XY_yValue>12.500000</XY_yValue>"), std::string::npos) << run.Events()[0];
   }

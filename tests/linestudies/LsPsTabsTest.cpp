@@ -43,7 +43,8 @@ struct Page {
 
 std::string Sheet(const std::vector<Page>& pages) {
   std::string text = "<PropertySheet Name=\"LSPs\" Title=\"Study\" Kind=\"6\"><PropertyPageList>";
-  for (const Page& p : pages) text += "<PropertyPage Name=\"" + p.name + "\">" + p.content + "</PropertyPage>";
+  // The host's comments between the pages are passed over.
+  for (const Page& p : pages) text += "<PropertyPage Name=\"" + p.name + "\">" + p.content + "</PropertyPage><!-- -->";
   return text + "</PropertyPageList></PropertySheet>";
 }
 
@@ -175,8 +176,12 @@ TEST(LsPsTabs, APageInTwoTabsKeepsWhatEachTabEntered) {
 
 TEST(LsPsTabs, TheAdvancedPageInTwoTabsSendsWhatTheLastShownTabHolds) {
   SheetRun run;
-  run.Run(Sheet({{"LsPgAdvanced", Advanced(false)}, {"LsPgAdvanced", Advanced(false)}}), nullptr,
-          [&](HeadlessSheetRunner& r) {
+  // The second load comes on top of the first: its AlwaysVisible is absent, so false.
+  run.Run(Sheet({{"LsPgAdvanced", "<AlwaysVisible>TRUE</AlwaysVisible>"},
+                 {"LsPgAdvanced", "<LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch>"}}),
+          nullptr, [&](HeadlessSheetRunner& r) {
+            EXPECT_EQ(r.TabDialogIds(), (std::vector<int>{IDD_LS_PG_ADVANCED, IDD_LS_PG_ADVANCED}));
+            EXPECT_EQ(r.Tab(0).IsDlgButtonChecked(IDC_LS_ATTACH_SYMBOL), orv::kBstChecked);
             r.Tab(0).Click(IDC_LS_ATTACH_CHART);
             ASSERT_TRUE(r.Sheet().SelectPage(1));
             ASSERT_EQ(run.Events(), std::vector<std::string>{EventXml("LsPgAdvanced", Advanced(true))});

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "FakeSheetOwner.h"
+#include "LsPageLayouts.h"
+#include "LsSheetRun.h"
 #include "dlgkit/fake/HeadlessSheetRunner.h"
 #include "linestudies/LsPageTable.h"
 #include "linestudies/LsPgAdvanced.h"
@@ -18,74 +20,42 @@ namespace {
 using lstest::AdvancedApplyText;
 using lstest::Compact;
 using lstest::FakeSheetOwner;
+using lstest::SheetNode;
+using lstest::SheetRun;
 using lstest::StatusEvent;
-using orv::FakeControls;
 using orv::HeadlessSheetRunner;
 using Sheet = CLsPs<FakeSheetOwner>;
-
-XmlNode SheetNode(const std::string& text) {
-  XmlNode document = XmlCreateDocument();
-  EXPECT_TRUE(XmlLoadString(document, text)) << text;
-  return XmlFindNode(document, "PropertySheet", true);
-}
-
-void AdvancedLayout(FakeControls& controls) {
-  controls.AddRadio(IDC_LS_ATTACH_SYMBOL, 1, "Current Symbol/Expression");
-  controls.AddRadio(IDC_LS_ATTACH_CHART, 1, "Chart X/Y Values");
-  controls.AddRadio(IDC_LS_ATTACH_SCREEN, 1, "Screen X/Y Position");
-  controls.Control(IDC_LS_ATTACH_SCREEN).visible = false;  // as in the template
-}
-
-HeadlessSheetRunner AdvancedRunner() {
-  HeadlessSheetRunner runner;
-  runner.SetLayout(IDD_LS_PG_ADVANCED, AdvancedLayout);
-  return runner;
-}
 
 constexpr const char* kAdvancedSheet =
     "<Doc><PropertySheet Name=\"LSPs\" Title=\"Trendline\" Kind=\"3\"><PropertyPageList>"
     "<PropertyPage Name=\"LsPgAdvanced\"><AlwaysVisible>FALSE</AlwaysVisible></PropertyPage>"
     "</PropertyPageList></PropertySheet></Doc>";
 
+// The user picks "Chart X/Y Values" and presses OK.
+void AttachToChartAndOk(HeadlessSheetRunner& run) {
+  run.Tab(0).Click(IDC_LS_ATTACH_CHART);
+  run.Sheet().PressOk();
+}
+
 TEST(LsPsLoad, TitleAndTabsInOrderUnknownAndUnbuiltNamesPassedOver) {
-  FakeSheetOwner owner;
-  Sheet sheet(&owner);
-  sheet.InitFromXml(
+  SheetRun run;
+  run.sheet.InitFromXml(
       SheetNode("<PropertySheet Name=\"LSPs\" Title=\"Fibonacci Retracement\" Kind=\"6\"><PropertyPageList>"
                 "<PropertyPage Name=\"NoSuchPage\"/><PropertyPage Name=\"lspgadvanced\"/>"
                 "<PropertyPage Name=\"LsPgAdvanced\"><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch></PropertyPage>"
                 "<PropertyPage Name=\"LsPgText\"/></PropertyPageList></PropertySheet>"));
-  EXPECT_EQ(sheet.Title(), "Fibonacci Retracement");
-  EXPECT_EQ(sheet.TabNames(), std::vector<std::string>{"LsPgAdvanced"});
-  auto* page = dynamic_cast<CLsPgAdvanced*>(sheet.PageOf(1352));
+  EXPECT_EQ(run.sheet.Title(), "Fibonacci Retracement");
+  EXPECT_EQ(run.sheet.TabNames(), std::vector<std::string>{"LsPgAdvanced"});
+  auto* page = dynamic_cast<CLsPgAdvanced*>(run.sheet.PageOf(1352));
   ASSERT_NE(page, nullptr);
   EXPECT_EQ(page->AttachValue(), CLsPgAdvanced::kAttachScreen);
   EXPECT_EQ(page->Kind(), 6);
-  EXPECT_EQ(sheet.PageOf(1333), nullptr) << "the text page is not built";
+  EXPECT_EQ(run.sheet.PageOf(1333), nullptr) << "the text page is not built";
 
-  HeadlessSheetRunner runner = AdvancedRunner();
-  EXPECT_EQ(sheet.DoModal(runner), 0);
-  EXPECT_EQ(runner.Caption(), "Fibonacci Retracement");
-  EXPECT_EQ(runner.TabDialogIds(), std::vector<int>{1352});
-  EXPECT_TRUE(owner.events.empty());
-}
-
-TEST(LsPsLoad, PageNamedTwiceIsOneObjectInTwoTabsLoadedTwice) {
-  FakeSheetOwner owner;
-  Sheet sheet(&owner);
-  sheet.InitFromXml(SheetNode(
-      "<PropertySheet Name=\"LSPs\" Kind=\"6\"><PropertyPageList>"
-      "<PropertyPage Name=\"LsPgAdvanced\"><AlwaysVisible>TRUE</AlwaysVisible></PropertyPage>"
-      "<!-- between --><PropertyPage Name=\"LsPgAdvanced\"><LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch></PropertyPage>"
-      "</PropertyPageList></PropertySheet>"));
-  EXPECT_EQ(sheet.TabNames(), (std::vector<std::string>{"LsPgAdvanced", "LsPgAdvanced"}));
-  // The second load comes on top of the first: its AlwaysVisible is absent, so false.
-  auto* page = dynamic_cast<CLsPgAdvanced*>(sheet.PageOf(1352));
-  ASSERT_NE(page, nullptr);
-  EXPECT_EQ(page->AttachValue(), CLsPgAdvanced::kAttachSymbol);
-  HeadlessSheetRunner runner = AdvancedRunner();
-  sheet.DoModal(runner);
-  EXPECT_EQ(runner.TabDialogIds(), (std::vector<int>{1352, 1352}));
+  EXPECT_EQ(run.sheet.DoModal(run.runner), 0);
+  EXPECT_EQ(run.runner.Caption(), "Fibonacci Retracement");
+  EXPECT_EQ(run.runner.TabDialogIds(), std::vector<int>{1352});
+  EXPECT_TRUE(run.owner.events.empty());
 }
 
 TEST(LsPsLoad, MissingListOrPagesOrTitleGiveEmptySheetAndCaption) {
@@ -101,87 +71,71 @@ TEST(LsPsLoad, MissingListOrPagesOrTitleGiveEmptySheetAndCaption) {
     EXPECT_TRUE(sheet.TabNames().empty()) << text;
     EXPECT_EQ(sheet.Title(), "T");
   }
-  FakeSheetOwner owner;
-  Sheet sheet(&owner);
-  sheet.InitFromXml(
-      SheetNode("<PropertySheet Name=\"LSPs\" Kind=\"1\"><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\"/>"
-                "</PropertyPageList></PropertySheet>"));
-  HeadlessSheetRunner runner = AdvancedRunner();
-  sheet.DoModal(runner);
-  EXPECT_TRUE(runner.Initialized());
-  EXPECT_EQ(runner.Caption(), "");
+  SheetRun run;
+  run.Run(
+      "<PropertySheet Name=\"LSPs\" Kind=\"1\"><PropertyPageList><PropertyPage Name=\"LsPgAdvanced\"/>"
+      "</PropertyPageList></PropertySheet>",
+      nullptr, [](HeadlessSheetRunner&) {});
+  EXPECT_TRUE(run.runner.Initialized());
+  EXPECT_EQ(run.runner.Caption(), "");
 }
 
 TEST(LsPsLoad, HostDocumentIsNeverChanged) {
   XmlNode node = SheetNode(kAdvancedSheet);
   const std::string before = XmlGetXml(node);
-  FakeSheetOwner owner;
-  Sheet sheet(&owner);
-  sheet.InitFromXml(node);
-  HeadlessSheetRunner runner = AdvancedRunner();
-  runner.SetScript([](HeadlessSheetRunner& run) {
-    run.Tab(0).Click(IDC_LS_ATTACH_CHART);
-    run.Sheet().PressOk();
-  });
-  EXPECT_EQ(sheet.DoModal(runner), 1);
-  EXPECT_EQ(owner.events.size(), 1u);
+  SheetRun run;
+  run.sheet.InitFromXml(node);
+  run.runner.SetScript(AttachToChartAndOk);
+  EXPECT_EQ(run.sheet.DoModal(run.runner), 1);
+  EXPECT_EQ(run.owner.events.size(), 1u);
   EXPECT_EQ(XmlGetXml(node), before);
 }
 
 TEST(LsPsApply, ApplyTwiceWithoutChangeRaisesOnceThenOkAndCancelRaiseNothingMore) {
-  FakeSheetOwner owner;
-  Sheet sheet(&owner);
-  sheet.InitFromXml(SheetNode(kAdvancedSheet));
-  HeadlessSheetRunner runner = AdvancedRunner();
-  runner.SetScript([&](HeadlessSheetRunner& run) {
-    run.Tab(0).Click(IDC_LS_ATTACH_CHART);
-    EXPECT_TRUE(run.Sheet().IsApplyEnabled());
-    EXPECT_TRUE(run.Sheet().PressApply());
-    ASSERT_EQ(owner.events.size(), 1u);
-    EXPECT_EQ(lstest::Compacted(owner.events[0]), (StatusEvent{0, AdvancedApplyText(true, false), 0, ""}));
-    EXPECT_EQ(Compact(XmlGetXml(sheet.Document())), AdvancedApplyText(true, false));
-    run.Sheet().PressApply();
-    EXPECT_EQ(owner.events.size(), 1u) << "nothing changed since the last Apply";
-    run.Sheet().PressOk();
-  });
-  EXPECT_EQ(sheet.DoModal(runner), 1);
-  EXPECT_EQ(owner.events.size(), 1u);
+  SheetRun run;
+  EXPECT_EQ(
+      run.Run(
+          kAdvancedSheet, nullptr,
+          [&](HeadlessSheetRunner& r) {
+            r.Tab(0).Click(IDC_LS_ATTACH_CHART);
+            EXPECT_TRUE(r.Sheet().IsApplyEnabled());
+            EXPECT_TRUE(r.Sheet().PressApply());
+            ASSERT_EQ(run.owner.events.size(), 1u);
+            EXPECT_EQ(lstest::Compacted(run.owner.events[0]), (StatusEvent{0, AdvancedApplyText(true, false), 0, ""}));
+            EXPECT_EQ(Compact(XmlGetXml(run.sheet.Document())), AdvancedApplyText(true, false));
+            r.Sheet().PressApply();
+            EXPECT_EQ(run.owner.events.size(), 1u) << "nothing changed since the last Apply";
+            r.Sheet().PressOk();
+          }),
+      1);
+  EXPECT_EQ(run.owner.events.size(), 1u);
 
   // Cancel after an Apply: nothing more, and what was sent stays sent.
-  FakeSheetOwner second;
-  Sheet again(&second);
-  again.InitFromXml(SheetNode(kAdvancedSheet));
-  runner.SetScript([&](HeadlessSheetRunner& run) {
-    run.Tab(0).Click(IDC_LS_ATTACH_CHART);
-    run.Sheet().PressApply();
-    run.Tab(0).Click(IDC_LS_ATTACH_SYMBOL);
-    run.Sheet().PressCancel();
+  SheetRun again;
+  again.Run(kAdvancedSheet, nullptr, [](HeadlessSheetRunner& r) {
+    r.Tab(0).Click(IDC_LS_ATTACH_CHART);
+    r.Sheet().PressApply();
+    r.Tab(0).Click(IDC_LS_ATTACH_SYMBOL);
+    r.Sheet().PressCancel();
   });
-  again.DoModal(runner);
-  EXPECT_EQ(second.events.size(), 1u);
+  EXPECT_EQ(again.owner.events.size(), 1u);
 }
 
 TEST(LsPsApply, OkAfterChangeRaisesOneAndUnchangedOkNone) {
-  FakeSheetOwner owner;
-  Sheet sheet(&owner);
-  sheet.InitFromXml(SheetNode(kAdvancedSheet));
-  HeadlessSheetRunner runner = AdvancedRunner();
-  runner.SetScript([](HeadlessSheetRunner& run) {
-    run.Tab(0).Click(IDC_LS_ATTACH_CHART);
-    run.Tab(0).Click(IDC_LS_ATTACH_SYMBOL);
-    run.Sheet().PressOk();
-  });
-  EXPECT_EQ(sheet.DoModal(runner), 1);
+  SheetRun run;
+  EXPECT_EQ(run.Run(kAdvancedSheet, nullptr,
+                    [](HeadlessSheetRunner& r) {
+                      r.Tab(0).Click(IDC_LS_ATTACH_CHART);
+                      r.Tab(0).Click(IDC_LS_ATTACH_SYMBOL);
+                      r.Sheet().PressOk();
+                    }),
+            1);
   // Changed and changed back is still a change the user made: one event with what is shown.
-  ASSERT_EQ(owner.events.size(), 1u);
-  EXPECT_EQ(Compact(owner.events[0].value), AdvancedApplyText(false, false));
+  EXPECT_EQ(run.Events(), std::vector<std::string>{AdvancedApplyText(false, false)});
 
-  FakeSheetOwner quiet;
-  Sheet untouched(&quiet);
-  untouched.InitFromXml(SheetNode(kAdvancedSheet));
-  runner.SetScript([](HeadlessSheetRunner& run) { run.Sheet().PressOk(); });
-  untouched.DoModal(runner);
-  EXPECT_TRUE(quiet.events.empty());
+  SheetRun untouched;
+  untouched.Run(kAdvancedSheet, nullptr, [](HeadlessSheetRunner& r) { r.Sheet().PressOk(); });
+  EXPECT_TRUE(untouched.owner.events.empty());
 }
 
 TEST(LsPsApply, UnknownIdEmptySlotOrCleanPageRaiseNothingAndAnswerZero) {
@@ -198,26 +152,17 @@ TEST(LsPsApply, UnknownIdEmptySlotOrCleanPageRaiseNothingAndAnswerZero) {
 
   Sheet ownerless(nullptr);
   ownerless.InitFromXml(SheetNode(kAdvancedSheet));
-  HeadlessSheetRunner runner = AdvancedRunner();
-  runner.SetScript([](HeadlessSheetRunner& run) {
-    run.Tab(0).Click(IDC_LS_ATTACH_CHART);
-    run.Sheet().PressOk();
-  });
+  HeadlessSheetRunner runner;
+  lstest::SetLsLayouts(runner);
+  runner.SetScript(AttachToChartAndOk);
   EXPECT_EQ(ownerless.DoModal(runner), 1);
 }
 
 TEST(LsPsApply, SinkFailureEndsTheRunAndReachesTheCaller) {
-  FakeSheetOwner owner;
-  owner.throwOnFire = true;
-  Sheet sheet(&owner);
-  sheet.InitFromXml(SheetNode(kAdvancedSheet));
-  HeadlessSheetRunner runner = AdvancedRunner();
-  runner.SetScript([](HeadlessSheetRunner& run) {
-    run.Tab(0).Click(IDC_LS_ATTACH_CHART);
-    run.Sheet().PressOk();
-  });
-  EXPECT_THROW(sheet.DoModal(runner), std::runtime_error);
-  EXPECT_EQ(owner.events.size(), 1u);
+  SheetRun run;
+  run.owner.throwOnFire = true;
+  EXPECT_THROW(run.Run(kAdvancedSheet, nullptr, AttachToChartAndOk), std::runtime_error);
+  EXPECT_EQ(run.owner.events.size(), 1u);
 }
 
 }  // namespace

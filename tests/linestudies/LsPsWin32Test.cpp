@@ -181,7 +181,7 @@ class ThrowingPage final : public orv::Page {
   }
 };
 
-TEST_F(LsPsWin32, RunnerRethrowsPageFailureAndKeepsEmptyCaption) {
+TEST_F(LsPsWin32, RunnerEndsTheRunAndRethrowsAPageFailure) {
   ThrowingPage page;
   orv::SheetSetup setup;
   setup.pages.push_back({&page, IDD_LS_PG_ADVANCED});
