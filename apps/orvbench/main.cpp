@@ -51,22 +51,25 @@ constexpr char kUsage[] =
     "The component is loaded from PATH (default: OrvChartDlgs.dll beside orvbench.exe).\n"
     "Exit code 0; 1 when an open failed; 2 on a bad command line.\n";
 
-// The line study sheet as the host hands it over: the Advanced page alone, or a trendline by
-// date with its Advanced page after it.
-constexpr wchar_t kAdvancedOnly[] =
-    LR"(<PropertySheet Name="LSPs" Title="Trendline" Kind="1">
+// The line study sheet as the host hands it over, with these pages: the Advanced page alone, or
+// a trendline by date with its Advanced page after it.
+std::wstring LineStudySheet(const std::wstring& pages) {
+  return LR"(<PropertySheet Name="LSPs" Title="Trendline" Kind="1">
   <PropertyPageList>
-    <PropertyPage Name="LsPgAdvanced">
+)" + pages +
+         LR"(  </PropertyPageList>
+</PropertySheet>)";
+}
+
+constexpr wchar_t kAdvancedPage[] =
+    LR"(    <PropertyPage Name="LsPgAdvanced">
       <AlwaysVisible>FALSE</AlwaysVisible>
       <LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch>
     </PropertyPage>
-  </PropertyPageList>
-</PropertySheet>)";
+)";
 
-constexpr wchar_t kTrendAndAdvanced[] =
-    LR"(<PropertySheet Name="LSPs" Title="Trendline" Kind="1">
-  <PropertyPageList>
-    <PropertyPage Name="LsPgDayTrend">
+constexpr wchar_t kDayTrendPage[] =
+    LR"(    <PropertyPage Name="LsPgDayTrend">
       <SnapEntryList><SnapEntry>0</SnapEntry><SnapEntry>1</SnapEntry><SnapEntry>2</SnapEntry><SnapEntry>3</SnapEntry><SnapEntry>4</SnapEntry></SnapEntryList>
       <VertexButtons Show="Yes"/>
       <CTrendline>
@@ -81,12 +84,7 @@ constexpr wchar_t kTrendAndAdvanced[] =
         <LSTrl_Extendpt2>1</LSTrl_Extendpt2>
       </CTrendline>
     </PropertyPage>
-    <PropertyPage Name="LsPgAdvanced">
-      <AlwaysVisible>FALSE</AlwaysVisible>
-      <LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch>
-    </PropertyPage>
-  </PropertyPageList>
-</PropertySheet>)";
+)";
 
 // The dialog templates of the line study pages measured, as the DLL carries them.
 constexpr int kDayTrendTemplate = 1317;
@@ -182,7 +180,7 @@ HRESULT CreateChartPages(HMODULE dll, ComPtr<IChartPages>& pages) {
   return factory->CreateInstance(nullptr, IID_IChartPages, reinterpret_cast<void**>(pages.put()));
 }
 
-HRESULT LoadDocument(const wchar_t* text, ComPtr<IXMLDOMDocument2>& document) {
+HRESULT LoadDocument(const std::wstring& text, ComPtr<IXMLDOMDocument2>& document) {
   CLSID clsid{};
   HRESULT hr = CLSIDFromProgID(L"Microsoft.XMLDOM", &clsid);
   if (FAILED(hr)) return hr;
@@ -190,7 +188,7 @@ HRESULT LoadDocument(const wchar_t* text, ComPtr<IXMLDOMDocument2>& document) {
                         reinterpret_cast<void**>(document.put()));
   if (FAILED(hr)) return hr;
   Bstr xml;
-  *xml.put() = SysAllocString(text);
+  *xml.put() = SysAllocString(text.c_str());
   VARIANT_BOOL loaded = VARIANT_FALSE;
   hr = document->loadXML(xml.get(), &loaded);
   return FAILED(hr) ? hr : loaded == VARIANT_TRUE ? S_OK : E_FAIL;
@@ -293,8 +291,8 @@ int Run(const std::vector<std::wstring>& args) {
   }
   ComPtr<IXMLDOMDocument2> advancedOnly;
   ComPtr<IXMLDOMDocument2> trendAndAdvanced;
-  if (FAILED(hr = LoadDocument(kAdvancedOnly, advancedOnly)) ||
-      FAILED(hr = LoadDocument(kTrendAndAdvanced, trendAndAdvanced))) {
+  if (FAILED(hr = LoadDocument(LineStudySheet(kAdvancedPage), advancedOnly)) ||
+      FAILED(hr = LoadDocument(LineStudySheet(std::wstring(kDayTrendPage) + kAdvancedPage), trendAndAdvanced))) {
     std::fprintf(stderr, "orvbench: cannot load a document (0x%08lX)\n", static_cast<unsigned long>(hr));
     return 1;
   }
