@@ -7,6 +7,7 @@
 #include "FloorSheet.h"
 #include "SheetProbe.h"
 
+#include "Activation.h"
 #include "ComObjects.h"
 
 #include "OrvChartDlgs_h.h"
@@ -141,45 +142,6 @@ bool ParseOptions(const std::vector<std::wstring>& args, Options& options, std::
   return true;
 }
 
-class Library {
- public:
-  explicit Library(const std::wstring& path) : module_(LoadLibraryW(path.c_str())) {}
-  ~Library() {
-    if (module_ != nullptr) FreeLibrary(module_);
-  }
-  Library(const Library&) = delete;
-  Library& operator=(const Library&) = delete;
-  HMODULE get() const { return module_; }
-
- private:
-  HMODULE module_;
-};
-
-std::wstring ProgramFolder() {
-  std::vector<wchar_t> buffer(MAX_PATH);
-  for (;;) {
-    const DWORD length = GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
-    if (length < buffer.size()) {
-      std::wstring path(buffer.data(), length);
-      const std::size_t slash = path.find_last_of(L"\\/");
-      return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash + 1);
-    }
-    buffer.resize(buffer.size() * 2);
-  }
-}
-
-// ChartPages straight from the DLL's class factory, as a host without registration can have it.
-HRESULT CreateChartPages(HMODULE dll, ComPtr<IChartPages>& pages) {
-  using GetClassObjectFn = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
-  const auto getClassObject =
-      reinterpret_cast<GetClassObjectFn>(reinterpret_cast<void*>(GetProcAddress(dll, "DllGetClassObject")));
-  if (getClassObject == nullptr) return E_NOINTERFACE;
-  ComPtr<IClassFactory> factory;
-  HRESULT hr = getClassObject(CLSID_ChartPages, IID_IClassFactory, reinterpret_cast<void**>(factory.put()));
-  if (FAILED(hr)) return hr;
-  return factory->CreateInstance(nullptr, IID_IChartPages, reinterpret_cast<void**>(pages.put()));
-}
-
 HRESULT LoadDocument(const std::wstring& text, ComPtr<IXMLDOMDocument2>& document) {
   CLSID clsid{};
   HRESULT hr = CLSIDFromProgID(L"Microsoft.XMLDOM", &clsid);
@@ -281,16 +243,19 @@ int Run(const std::vector<std::wstring>& args) {
   INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_WIN95_CLASSES};
   InitCommonControlsEx(&classes);
 
-  const std::wstring dllPath = options.dll.empty() ? ProgramFolder() + L"OrvChartDlgs.dll" : options.dll;
-  Library dll(dllPath);
-  ComPtr<IChartPages> pages;
-  HRESULT hr = dll.get() != nullptr ? CreateChartPages(dll.get(), pages) : HRESULT_FROM_WIN32(GetLastError());
-  if (FAILED(hr)) {
-    std::fprintf(stderr, "orvbench: cannot create ChartPages from the DLL (0x%08lX)\n", static_cast<unsigned long>(hr));
+  // ChartPages straight from the DLL's class factory, as a host without registration can have it.
+  host_app::Options direct;
+  direct.activation = host_app::Activation::Direct;
+  direct.dllPath = options.dll;
+  host_app::ComponentInstance component;
+  if (!component.Create(direct, error)) {
+    std::fprintf(stderr, "orvbench: cannot create ChartPages from the DLL: %s\n", error.c_str());
     return 1;
   }
+  IChartPages* const pages = component.Pages();
   ComPtr<IXMLDOMDocument2> advancedOnly;
   ComPtr<IXMLDOMDocument2> trendAndAdvanced;
+  HRESULT hr = S_OK;
   if (FAILED(hr = LoadDocument(LineStudySheet(kAdvancedPage), advancedOnly)) ||
       FAILED(hr = LoadDocument(LineStudySheet(std::wstring(kDayTrendPage) + kAdvancedPage), trendAndAdvanced))) {
     std::fprintf(stderr, "orvbench: cannot load a document (0x%08lX)\n", static_cast<unsigned long>(hr));
@@ -298,12 +263,12 @@ int Run(const std::vector<std::wstring>& args) {
   }
   const ComPtr<IChartData> chart = host_app::MakeChartData(host_app::HostChart(false));
 
-  const auto openSheet = [&pages, &chart](IXMLDOMDocument2* document) {
+  const auto openSheet = [pages, &chart](IXMLDOMDocument2* document) {
     LONG result = -1;
     const HRESULT status = pages->DoModal2(document, chart.get(), &result);
     return FAILED(status) ? -1L : static_cast<long>(result);
   };
-  const HINSTANCE templates = dll.get();
+  const HINSTANCE templates = component.Module();
   std::vector<Subject> subjects = {
       {"platform", [] { return static_cast<long>(RunFloorSheet(nullptr)); }},
       {"advanced", [&] { return openSheet(advancedOnly.get()); }, 3},
