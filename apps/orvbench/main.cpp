@@ -9,10 +9,10 @@
 
 #include "Activation.h"
 #include "ComObjects.h"
+#include "HostServiceObjects.h"
 
 #include "OrvChartDlgs_h.h"
 #include "com/ComPtr.h"
-#include "xml/msxml/MsxmlGuids.h"
 #include "com/ComApartment.h"
 
 #include <windows.h>
@@ -91,8 +91,8 @@ constexpr wchar_t kDayTrendPage[] =
 constexpr int kDayTrendTemplate = 1317;
 constexpr int kAdvancedTemplate = 1352;
 
-// {C64DDFCF-FC15-4725-9F5D-6EE5658680A2}: the host's settings service, which a bare host lacks.
-constexpr CLSID kClsidSettingsService = {0xC64DDFCF, 0xFC15, 0x4725, {0x9F, 0x5D, 0x6E, 0xE5, 0x65, 0x86, 0x80, 0xA2}};
+// Where the host's settings service (host_app::kClsidSettingsService) is looked for; a bare
+// host has it nowhere.
 constexpr DWORD kAllServerContexts =
     CLSCTX_INPROC_SERVER | CLSCTX_INPROC_HANDLER | CLSCTX_LOCAL_SERVER | CLSCTX_REMOTE_SERVER;
 
@@ -142,20 +142,6 @@ bool ParseOptions(const std::vector<std::wstring>& args, Options& options, std::
   return true;
 }
 
-HRESULT LoadDocument(const std::wstring& text, ComPtr<IXMLDOMDocument2>& document) {
-  CLSID clsid{};
-  HRESULT hr = CLSIDFromProgID(L"Microsoft.XMLDOM", &clsid);
-  if (FAILED(hr)) return hr;
-  hr = CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, msxml::kIID_IXMLDOMDocument2,
-                        reinterpret_cast<void**>(document.put()));
-  if (FAILED(hr)) return hr;
-  Bstr xml;
-  *xml.put() = SysAllocString(text.c_str());
-  VARIANT_BOOL loaded = VARIANT_FALSE;
-  hr = document->loadXML(xml.get(), &loaded);
-  return FAILED(hr) ? hr : loaded == VARIANT_TRUE ? S_OK : E_FAIL;
-}
-
 // One kind of open, and what it measured.
 struct Subject {
   Subject(const char* name, std::function<long()> open, int twin = -1)
@@ -189,7 +175,7 @@ double MedianMissingServiceCost(int count) {
   for (int i = 0; i < count; ++i) {
     IUnknown* service = nullptr;
     const double start = NowMs();
-    const HRESULT hr = CoCreateInstance(kClsidSettingsService, nullptr, kAllServerContexts, IID_IUnknown,
+    const HRESULT hr = CoCreateInstance(host_app::kClsidSettingsService, nullptr, kAllServerContexts, IID_IUnknown,
                                         reinterpret_cast<void**>(&service));
     values.push_back(NowMs() - start);
     if (SUCCEEDED(hr) && service != nullptr) service->Release();
@@ -256,8 +242,10 @@ int Run(const std::vector<std::wstring>& args) {
   ComPtr<IXMLDOMDocument2> advancedOnly;
   ComPtr<IXMLDOMDocument2> trendAndAdvanced;
   HRESULT hr = S_OK;
-  if (FAILED(hr = LoadDocument(LineStudySheet(kAdvancedPage), advancedOnly)) ||
-      FAILED(hr = LoadDocument(LineStudySheet(std::wstring(kDayTrendPage) + kAdvancedPage), trendAndAdvanced))) {
+  if ((hr = host_app::MakeXmlDocument(LineStudySheet(kAdvancedPage), advancedOnly)) != S_OK ||
+      (hr = host_app::MakeXmlDocument(LineStudySheet(std::wstring(kDayTrendPage) + kAdvancedPage), trendAndAdvanced)) !=
+          S_OK) {
+    if (hr == S_FALSE) hr = E_FAIL;  // not well-formed
     std::fprintf(stderr, "orvbench: cannot load a document (0x%08lX)\n", static_cast<unsigned long>(hr));
     return 1;
   }
