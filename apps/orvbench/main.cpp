@@ -7,11 +7,12 @@
 #include "FloorSheet.h"
 #include "SheetProbe.h"
 
+#include "Activation.h"
 #include "ComObjects.h"
+#include "HostServiceObjects.h"
 
 #include "OrvChartDlgs_h.h"
 #include "com/ComPtr.h"
-#include "xml/msxml/MsxmlGuids.h"
 #include "com/ComApartment.h"
 
 #include <windows.h>
@@ -51,22 +52,25 @@ constexpr char kUsage[] =
     "The component is loaded from PATH (default: OrvChartDlgs.dll beside orvbench.exe).\n"
     "Exit code 0; 1 when an open failed; 2 on a bad command line.\n";
 
-// The line study sheet as the host hands it over: the Advanced page alone, or a trendline by
-// date with its Advanced page after it.
-constexpr wchar_t kAdvancedOnly[] =
-    LR"(<PropertySheet Name="LSPs" Title="Trendline" Kind="1">
+// The line study sheet as the host hands it over, with these pages: the Advanced page alone, or
+// a trendline by date with its Advanced page after it.
+std::wstring LineStudySheet(const std::wstring& pages) {
+  return LR"(<PropertySheet Name="LSPs" Title="Trendline" Kind="1">
   <PropertyPageList>
-    <PropertyPage Name="LsPgAdvanced">
+)" + pages +
+         LR"(  </PropertyPageList>
+</PropertySheet>)";
+}
+
+constexpr wchar_t kAdvancedPage[] =
+    LR"(    <PropertyPage Name="LsPgAdvanced">
       <AlwaysVisible>FALSE</AlwaysVisible>
       <LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch>
     </PropertyPage>
-  </PropertyPageList>
-</PropertySheet>)";
+)";
 
-constexpr wchar_t kTrendAndAdvanced[] =
-    LR"(<PropertySheet Name="LSPs" Title="Trendline" Kind="1">
-  <PropertyPageList>
-    <PropertyPage Name="LsPgDayTrend">
+constexpr wchar_t kDayTrendPage[] =
+    LR"(    <PropertyPage Name="LsPgDayTrend">
       <SnapEntryList><SnapEntry>0</SnapEntry><SnapEntry>1</SnapEntry><SnapEntry>2</SnapEntry><SnapEntry>3</SnapEntry><SnapEntry>4</SnapEntry></SnapEntryList>
       <VertexButtons Show="Yes"/>
       <CTrendline>
@@ -81,19 +85,14 @@ constexpr wchar_t kTrendAndAdvanced[] =
         <LSTrl_Extendpt2>1</LSTrl_Extendpt2>
       </CTrendline>
     </PropertyPage>
-    <PropertyPage Name="LsPgAdvanced">
-      <AlwaysVisible>FALSE</AlwaysVisible>
-      <LSTxt_ScrnAnch>FALSE</LSTxt_ScrnAnch>
-    </PropertyPage>
-  </PropertyPageList>
-</PropertySheet>)";
+)";
 
 // The dialog templates of the line study pages measured, as the DLL carries them.
 constexpr int kDayTrendTemplate = 1317;
 constexpr int kAdvancedTemplate = 1352;
 
-// {C64DDFCF-FC15-4725-9F5D-6EE5658680A2}: the host's settings service, which a bare host lacks.
-constexpr CLSID kClsidSettingsService = {0xC64DDFCF, 0xFC15, 0x4725, {0x9F, 0x5D, 0x6E, 0xE5, 0x65, 0x86, 0x80, 0xA2}};
+// Where the host's settings service (host_app::kClsidSettingsService) is looked for; a bare
+// host has it nowhere.
 constexpr DWORD kAllServerContexts =
     CLSCTX_INPROC_SERVER | CLSCTX_INPROC_HANDLER | CLSCTX_LOCAL_SERVER | CLSCTX_REMOTE_SERVER;
 
@@ -143,59 +142,6 @@ bool ParseOptions(const std::vector<std::wstring>& args, Options& options, std::
   return true;
 }
 
-class Library {
- public:
-  explicit Library(const std::wstring& path) : module_(LoadLibraryW(path.c_str())) {}
-  ~Library() {
-    if (module_ != nullptr) FreeLibrary(module_);
-  }
-  Library(const Library&) = delete;
-  Library& operator=(const Library&) = delete;
-  HMODULE get() const { return module_; }
-
- private:
-  HMODULE module_;
-};
-
-std::wstring ProgramFolder() {
-  std::vector<wchar_t> buffer(MAX_PATH);
-  for (;;) {
-    const DWORD length = GetModuleFileNameW(nullptr, buffer.data(), static_cast<DWORD>(buffer.size()));
-    if (length < buffer.size()) {
-      std::wstring path(buffer.data(), length);
-      const std::size_t slash = path.find_last_of(L"\\/");
-      return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash + 1);
-    }
-    buffer.resize(buffer.size() * 2);
-  }
-}
-
-// ChartPages straight from the DLL's class factory, as a host without registration can have it.
-HRESULT CreateChartPages(HMODULE dll, ComPtr<IChartPages>& pages) {
-  using GetClassObjectFn = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
-  const auto getClassObject =
-      reinterpret_cast<GetClassObjectFn>(reinterpret_cast<void*>(GetProcAddress(dll, "DllGetClassObject")));
-  if (getClassObject == nullptr) return E_NOINTERFACE;
-  ComPtr<IClassFactory> factory;
-  HRESULT hr = getClassObject(CLSID_ChartPages, IID_IClassFactory, reinterpret_cast<void**>(factory.put()));
-  if (FAILED(hr)) return hr;
-  return factory->CreateInstance(nullptr, IID_IChartPages, reinterpret_cast<void**>(pages.put()));
-}
-
-HRESULT LoadDocument(const wchar_t* text, ComPtr<IXMLDOMDocument2>& document) {
-  CLSID clsid{};
-  HRESULT hr = CLSIDFromProgID(L"Microsoft.XMLDOM", &clsid);
-  if (FAILED(hr)) return hr;
-  hr = CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, msxml::kIID_IXMLDOMDocument2,
-                        reinterpret_cast<void**>(document.put()));
-  if (FAILED(hr)) return hr;
-  Bstr xml;
-  *xml.put() = SysAllocString(text);
-  VARIANT_BOOL loaded = VARIANT_FALSE;
-  hr = document->loadXML(xml.get(), &loaded);
-  return FAILED(hr) ? hr : loaded == VARIANT_TRUE ? S_OK : E_FAIL;
-}
-
 // One kind of open, and what it measured.
 struct Subject {
   Subject(const char* name, std::function<long()> open, int twin = -1)
@@ -229,7 +175,7 @@ double MedianMissingServiceCost(int count) {
   for (int i = 0; i < count; ++i) {
     IUnknown* service = nullptr;
     const double start = NowMs();
-    const HRESULT hr = CoCreateInstance(kClsidSettingsService, nullptr, kAllServerContexts, IID_IUnknown,
+    const HRESULT hr = CoCreateInstance(host_app::kClsidSettingsService, nullptr, kAllServerContexts, IID_IUnknown,
                                         reinterpret_cast<void**>(&service));
     values.push_back(NowMs() - start);
     if (SUCCEEDED(hr) && service != nullptr) service->Release();
@@ -283,29 +229,34 @@ int Run(const std::vector<std::wstring>& args) {
   INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_WIN95_CLASSES};
   InitCommonControlsEx(&classes);
 
-  const std::wstring dllPath = options.dll.empty() ? ProgramFolder() + L"OrvChartDlgs.dll" : options.dll;
-  Library dll(dllPath);
-  ComPtr<IChartPages> pages;
-  HRESULT hr = dll.get() != nullptr ? CreateChartPages(dll.get(), pages) : HRESULT_FROM_WIN32(GetLastError());
-  if (FAILED(hr)) {
-    std::fprintf(stderr, "orvbench: cannot create ChartPages from the DLL (0x%08lX)\n", static_cast<unsigned long>(hr));
+  // ChartPages straight from the DLL's class factory, as a host without registration can have it.
+  host_app::Options direct;
+  direct.activation = host_app::Activation::Direct;
+  direct.dllPath = options.dll;
+  host_app::ComponentInstance component;
+  if (!component.Create(direct, error)) {
+    std::fprintf(stderr, "orvbench: cannot create ChartPages from the DLL: %s\n", error.c_str());
     return 1;
   }
+  IChartPages* const pages = component.Pages();
   ComPtr<IXMLDOMDocument2> advancedOnly;
   ComPtr<IXMLDOMDocument2> trendAndAdvanced;
-  if (FAILED(hr = LoadDocument(kAdvancedOnly, advancedOnly)) ||
-      FAILED(hr = LoadDocument(kTrendAndAdvanced, trendAndAdvanced))) {
+  HRESULT hr = S_OK;
+  if ((hr = host_app::MakeXmlDocument(LineStudySheet(kAdvancedPage), advancedOnly)) != S_OK ||
+      (hr = host_app::MakeXmlDocument(LineStudySheet(std::wstring(kDayTrendPage) + kAdvancedPage), trendAndAdvanced)) !=
+          S_OK) {
+    if (hr == S_FALSE) hr = E_FAIL;  // not well-formed
     std::fprintf(stderr, "orvbench: cannot load a document (0x%08lX)\n", static_cast<unsigned long>(hr));
     return 1;
   }
   const ComPtr<IChartData> chart = host_app::MakeChartData(host_app::HostChart(false));
 
-  const auto openSheet = [&pages, &chart](IXMLDOMDocument2* document) {
+  const auto openSheet = [pages, &chart](IXMLDOMDocument2* document) {
     LONG result = -1;
     const HRESULT status = pages->DoModal2(document, chart.get(), &result);
     return FAILED(status) ? -1L : static_cast<long>(result);
   };
-  const HINSTANCE templates = dll.get();
+  const HINSTANCE templates = component.Module();
   std::vector<Subject> subjects = {
       {"platform", [] { return static_cast<long>(RunFloorSheet(nullptr)); }},
       {"advanced", [&] { return openSheet(advancedOnly.get()); }, 3},

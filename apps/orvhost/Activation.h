@@ -14,7 +14,7 @@
 
 namespace orv::host_app {
 
-// The folder of orvhost.exe, with a trailing backslash.
+// The folder of the running program, with a trailing backslash.
 std::wstring ProgramFolder();
 
 // An activation context handle, released on destruction.
@@ -81,6 +81,8 @@ class ComponentInstance {
   // On failure `error` says what went wrong, for the user.
   bool Create(const Options& options, std::string& error);
   IChartPages* Pages() const { return pages_.get(); }
+  // The component's DLL when created straight from it, else null.
+  HMODULE Module() const { return library_.get(); }
 
  private:
   ActCtx context_;

@@ -223,31 +223,37 @@ HRESULT Hand(ComPtr<Interface> service, REFIID iid, void** object) {
 
 }  // namespace
 
-bool HostSettings::AddDocument(const std::wstring& name, const std::wstring& text, std::string& error) {
+HRESULT MakeXmlDocument(const std::wstring& text, ComPtr<IXMLDOMDocument2>& document) {
   CLSID clsid{};
   HRESULT hr = CLSIDFromProgID(L"Microsoft.XMLDOM", &clsid);
-  ComPtr<IXMLDOMDocument2> document;
   if (SUCCEEDED(hr)) {
     hr = CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, msxml::kIID_IXMLDOMDocument2,
                           reinterpret_cast<void**>(document.put()));
   }
+  if (FAILED(hr)) return hr;
+  document->put_async(VARIANT_FALSE);
+  Bstr xml = MakeBstr(text);
+  VARIANT_BOOL loaded = VARIANT_FALSE;
+  hr = document->loadXML(xml.get(), &loaded);
+  return FAILED(hr) || loaded != VARIANT_TRUE ? S_FALSE : S_OK;
+}
+
+bool HostSettings::AddDocument(const std::wstring& name, const std::wstring& text, std::string& error) {
+  ComPtr<IXMLDOMDocument2> document;
+  const HRESULT hr = MakeXmlDocument(text, document);
   if (FAILED(hr)) {
     error = "cannot create Microsoft.XMLDOM for the " + Printable(name) + " document";
     return false;
   }
-  document->put_async(VARIANT_FALSE);
+  if (hr != S_OK) {
+    error = "the " + Printable(name) + " document is not well-formed XML";
+    return false;
+  }
   // The component asks in XPath; older parsers default to XSL patterns.
   Variant language;
   language.SetBstr(MakeBstr(L"XPath"));
   Bstr property = MakeBstr(L"SelectionLanguage");
   document->setProperty(property.get(), language.get());
-  Bstr xml = MakeBstr(text);
-  VARIANT_BOOL loaded = VARIANT_FALSE;
-  hr = document->loadXML(xml.get(), &loaded);
-  if (FAILED(hr) || loaded != VARIANT_TRUE) {
-    error = "the " + Printable(name) + " document is not well-formed XML";
-    return false;
-  }
   const std::wstring key = Upper(name);
   if (key == L"PREFS") {
     ComPtr<IXMLDOMNode> table;

@@ -28,11 +28,15 @@ inline constexpr CLSID kClsidHelpService = {
 
 inline constexpr int kThemeColorCount = 31;
 
+// A Microsoft.XMLDOM document (synchronous) holding `text`, as a host hands one over. S_FALSE
+// when the text isn't well-formed XML; a failure when the document can't be made.
+HRESULT MakeXmlDocument(const std::wstring& text, ComPtr<IXMLDOMDocument2>& document);
+
 // What the settings service serves. Documents are looked up by name ignoring case; the theme
 // comes from PREFS' //General/Theme, whose Color children fill the record in order.
 class HostSettings {
  public:
-  // A document as the host holds it: Microsoft.XMLDOM with XPath selection. False with
+  // A document as the host holds it: MakeXmlDocument's, with XPath selection. False with
   // `error` set when it can't be made or the text isn't well-formed.
   bool AddDocument(const std::wstring& name, const std::wstring& text, std::string& error);
   IXMLDOMDocument2* Document(const std::wstring& name) const;

@@ -25,14 +25,15 @@ BOOL CALLBACK FindOwnedProc(HWND window, LPARAM param) {
   return TRUE;
 }
 
-}  // namespace
-
+// The visible window of this thread that `sheet` owns (a message box over it), or null.
 HWND FindWindowOwnedBy(HWND sheet) {
   if (sheet == nullptr) return nullptr;
   OwnedSearch search{sheet, nullptr};
   EnumThreadWindows(GetCurrentThreadId(), FindOwnedProc, reinterpret_cast<LPARAM>(&search));
   return search.found;
 }
+
+}  // namespace
 
 PopupCapture::PopupCapture(std::wstring path) : path_(std::move(path)) {}
 
@@ -69,15 +70,12 @@ void PopupCapture::Tick() {
   const HWND popup = FindWindowOwnedBy(FindThreadSheet());
   if (popup == nullptr) return;
   Stop();  // one picture; the answer below may let the sheet go on at once
-  std::string caption(256, '\0');
-  caption.resize(static_cast<std::size_t>(GetWindowTextA(popup, caption.data(), 256)));
-  caption_ = caption;
   const HRESULT hr = apps::CaptureWindowToPng(popup, path_);
   if (SUCCEEDED(hr))
     written_ = true;
   else
-    error_ =
-        StrFormat("cannot write the picture of \"%s\" (0x%08lX)", caption_.c_str(), static_cast<unsigned long>(hr));
+    error_ = StrFormat("cannot write the picture of \"%s\" (0x%08lX)", CaptionOf(popup).c_str(),
+                       static_cast<unsigned long>(hr));
   // A user's Esc: the box closes with its cancel answer and the dialog behind goes on.
   PostMessageW(popup, WM_COMMAND, IDCANCEL, 0);
 }

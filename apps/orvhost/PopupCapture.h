@@ -24,8 +24,6 @@ class PopupCapture {
 
   // True once the picture is written.
   bool Written() const { return written_; }
-  // The caption of the window photographed, or empty.
-  const std::string& Caption() const { return caption_; }
   // Empty unless writing the picture failed.
   const std::string& Error() const { return error_; }
 
@@ -36,11 +34,7 @@ class PopupCapture {
   std::wstring path_;
   UINT_PTR timer_ = 0;
   bool written_ = false;
-  std::string caption_;
   std::string error_;
 };
-
-// The visible window of this thread that `sheet` owns (a message box over it), or null.
-HWND FindWindowOwnedBy(HWND sheet);
 
 }  // namespace orv::host_app

@@ -55,6 +55,12 @@ HWND FindThreadSheet() {
   return found;
 }
 
+std::string CaptionOf(HWND window) {
+  std::string caption(256, '\0');
+  caption.resize(static_cast<std::size_t>(GetWindowTextA(window, caption.data(), 256)));
+  return caption;
+}
+
 ScriptDriver::ScriptDriver(std::vector<ScriptStep> steps) : steps_(std::move(steps)) {}
 
 ScriptDriver::~ScriptDriver() { KillTimerNow(); }
@@ -98,11 +104,9 @@ void ScriptDriver::Tick() {
     if (Elapsed(now, busySince_, kStuckMilliseconds)) {
       const HWND stuck = GetActiveWindow();
       if (stuck != nullptr && stuck != FindThreadSheet()) {
-        std::string caption(256, '\0');
-        caption.resize(static_cast<std::size_t>(GetWindowTextA(stuck, caption.data(), 256)));
         if (error_.empty()) {
           error_ = StrFormat("command %d (\"%s\") left a window open (\"%s\")", static_cast<int>(next_ + 1),
-                             steps_[next_].source.c_str(), caption.c_str());
+                             steps_[next_].source.c_str(), CaptionOf(stuck).c_str());
         }
         PostMessageW(stuck, WM_COMMAND, IDCANCEL, 0);
         busySince_ = now;

@@ -52,4 +52,7 @@ class ScriptDriver {
 // The visible property sheet among this thread's top-level windows, or null.
 HWND FindThreadSheet();
 
+// A window's caption (its first 255 characters), as the messages about it quote it.
+std::string CaptionOf(HWND window);
+
 }  // namespace orv::host_app

@@ -14,7 +14,6 @@
 #include "xml/StrFormat.h"
 #include "com/ComPtr.h"
 #include "com/WideText.h"
-#include "xml/msxml/MsxmlGuids.h"
 #include "com/ComApartment.h"
 
 #include <windows.h>
@@ -70,7 +69,7 @@ std::string BuiltInSample(int id = IDR_SAMPLE_LSPS) {
   return std::string(static_cast<const char*>(data), SizeofResource(nullptr, found));
 }
 
-// The document as a host holds it: a Microsoft.XMLDOM document.
+// The document as a host holds it (MakeXmlDocument).
 bool LoadDocument(const Options& options, ComPtr<IXMLDOMDocument2>& document, std::string& error) {
   std::string bytes;
   std::string name = "the built-in sample";
@@ -83,22 +82,12 @@ bool LoadDocument(const Options& options, ComPtr<IXMLDOMDocument2>& document, st
       return false;
     }
   }
-  CLSID clsid{};
-  HRESULT hr = CLSIDFromProgID(L"Microsoft.XMLDOM", &clsid);
-  if (SUCCEEDED(hr)) {
-    hr = CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, msxml::kIID_IXMLDOMDocument2,
-                          reinterpret_cast<void**>(document.put()));
-  }
+  const HRESULT hr = MakeXmlDocument(Wide(std::move(bytes)), document);
   if (FAILED(hr)) {
     error = StrFormat("cannot create Microsoft.XMLDOM (0x%08lX)", static_cast<unsigned long>(hr));
     return false;
   }
-  document->put_async(VARIANT_FALSE);
-  const std::wstring text = Wide(std::move(bytes));
-  Bstr xml = MakeBstr(text);
-  VARIANT_BOOL loaded = VARIANT_FALSE;
-  hr = document->loadXML(xml.get(), &loaded);
-  if (FAILED(hr) || loaded != VARIANT_TRUE) {
+  if (hr != S_OK) {
     error = StrFormat("%s is not well-formed XML", name.c_str());
     return false;
   }

@@ -11,24 +11,7 @@ failures=0
 out=$(mktemp) err=$(mktemp)
 trap 'rm -f "$out" "$err"' EXIT
 
-# case <name> <expected exit code> <expected output> <orvhost arguments...>
-case_() {
-  name=$1 code=$2 expected=$3
-  shift 3
-  wine "$host" "$@" >"$out" 2>"$err"
-  rc=$?
-  # Standard output, then what was said on standard error.
-  actual=$( (cat "$out"; cat "$err") | tr -d '\r' | sed -e 's/\\[rnt]//g')
-  if [ "$actual" = "$expected" ] && [ "$rc" = "$code" ]; then
-    echo "ok   $name"
-  else
-    echo "FAIL $name: exit code $rc (expected $code), output:"
-    echo "$actual"
-    echo "expected:"
-    echo "$expected"
-    failures=$((failures + 1))
-  fi
-}
+. "$(dirname "$0")/orvhost-case.sh"
 
 doc() { winepath -w "$docs/$1"; }
 
