@@ -50,18 +50,18 @@ MessageBoxStyle MessageBoxStyleFromFlags(unsigned flags) {
       break;
   }
   switch (flags & 0x70u) {
-    case 0x10:
+    case 0x10:  // hand
       style.iconResource = 32513;
-      break;  // hand
-    case 0x20:
+      break;
+    case 0x20:  // question
       style.iconResource = 32514;
-      break;  // question
-    case 0x30:
+      break;
+    case 0x30:  // exclamation
       style.iconResource = 32515;
-      break;  // exclamation
-    case 0x40:
+      break;
+    case 0x40:  // asterisk
       style.iconResource = 32516;
-      break;  // asterisk
+      break;
     default:
       break;
   }

@@ -86,6 +86,19 @@ std::uint32_t CharacterReferenceValue(std::string_view digits, bool hex) {
   return value;
 }
 
+// The character a reference's body (between '&' and ';') stands for: one of the five predefined
+// entities or a character reference; 0 (no XML character) for anything else.
+std::uint32_t ReferenceCharacter(std::string_view body) {
+  if (body.starts_with("#x")) return CharacterReferenceValue(body.substr(2), true);
+  if (body.starts_with("#")) return CharacterReferenceValue(body.substr(1), false);
+  if (body == "lt") return '<';
+  if (body == "gt") return '>';
+  if (body == "amp") return '&';
+  if (body == "apos") return '\'';
+  if (body == "quot") return '"';
+  return 0;
+}
+
 // One pass over the text by the grammar of a document without a DTD. Each Scan* operation
 // starts at its construct's first character and leaves `at_` just past it, or answers a refusal.
 class Scanner {
@@ -171,15 +184,7 @@ class Scanner {
   XmlTextVerdict ScanReference() {
     const std::size_t semicolon = text_.find(';', at_ + 1);
     if (semicolon == std::string_view::npos) return XmlTextVerdict::BadReference;
-    const std::string_view body = text_.substr(at_ + 1, semicolon - at_ - 1);
-    bool ok = false;
-    if (body.starts_with("#x"))
-      ok = IsXmlChar(CharacterReferenceValue(body.substr(2), true));
-    else if (body.starts_with("#"))
-      ok = IsXmlChar(CharacterReferenceValue(body.substr(1), false));
-    else
-      ok = body == "lt" || body == "gt" || body == "amp" || body == "apos" || body == "quot";
-    if (!ok) return XmlTextVerdict::BadReference;
+    if (!IsXmlChar(ReferenceCharacter(text_.substr(at_ + 1, semicolon - at_ - 1)))) return XmlTextVerdict::BadReference;
     at_ = semicolon + 1;
     return XmlTextVerdict::Acceptable;
   }
@@ -411,29 +416,15 @@ class Scanner {
         continue;
       }
       const std::size_t semicolon = value.find(';', i);
-      const std::string_view body = value.substr(i + 1, semicolon - i - 1);
+      const std::uint32_t c = ReferenceCharacter(value.substr(i + 1, semicolon - i - 1));
       i = semicolon;
-      if (body == "lt")
-        out += '<';
-      else if (body == "gt")
-        out += '>';
-      else if (body == "amp")
-        out += '&';
-      else if (body == "apos")
-        out += '\'';
-      else if (body == "quot")
-        out += '"';
-      else {
-        const bool hex = body.starts_with("#x");
-        std::uint32_t c = CharacterReferenceValue(body.substr(hex ? 2 : 1), hex);
-        if (c < 0x80) {
-          out += static_cast<char>(c);
-        } else {
-          const int more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-          const std::uint32_t lead[] = {0, 0xC0, 0xE0, 0xF0};
-          out += static_cast<char>(lead[more] | (c >> (6 * more)));
-          for (int k = more - 1; k >= 0; --k) out += static_cast<char>(0x80 | ((c >> (6 * k)) & 0x3F));
-        }
+      if (c < 0x80) {
+        out += static_cast<char>(c);
+      } else {
+        const int more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+        const std::uint32_t lead[] = {0, 0xC0, 0xE0, 0xF0};
+        out += static_cast<char>(lead[more] | (c >> (6 * more)));
+        for (int k = more - 1; k >= 0; --k) out += static_cast<char>(0x80 | ((c >> (6 * k)) & 0x3F));
       }
     }
     return out;

@@ -26,8 +26,10 @@ enum class XmlTextVerdict {
                       // comment, "]]>" in text, content outside the one root element
 };
 
-// Names are checked by the XML rules for ASCII; every byte from 0x80 up counts as a name
-// character, whatever the encoding makes of it.
+// Names are checked by the XML name rules. Natively the text is UTF-8: it is decoded, a byte
+// sequence that is no UTF-8 character is a BadCharacter, and non-ASCII characters are held to the
+// rules too. On Windows the text is in the ANSI code page: the rules are applied to ASCII, and
+// every byte from 0x80 up counts as a name character (MSXML judges those itself).
 XmlTextVerdict ScreenXmlText(std::string_view text);
 
 }  // namespace orv

@@ -127,8 +127,7 @@ class FakeControls final : public Controls {
   const std::vector<int>& PageApplySent() const { return pageApplySent_; }
   // Who answers kWmLsPageApply (the sheet); without one the answer is 0.
   void SetPageApplyHandler(std::function<std::intptr_t(int dialogId)> handler) { applyHandler_ = std::move(handler); }
-  std::optional<unsigned> WizardButtons() const { return wizardButtons_; }
-  // Who hears PSM_SETWIZBUTTONS besides this record (the wizard: its buttons are the sheet's).
+  // Who hears PSM_SETWIZBUTTONS (the wizard: its buttons are the sheet's, not a page's).
   void SetWizardButtonsHandler(std::function<void(unsigned flags)> handler) { wizardHandler_ = std::move(handler); }
   const std::vector<std::pair<std::string, int>>& HelpRequests() const { return helpRequests_; }
 
@@ -186,7 +185,6 @@ class FakeControls final : public Controls {
   void SheetUnchanged() override;
   std::intptr_t SendPageApply(int dialogId) override;
   void SetWizardButtons(unsigned flags) override {
-    wizardButtons_ = flags;
     if (wizardHandler_) wizardHandler_(flags);
   }
 
@@ -217,7 +215,6 @@ class FakeControls final : public Controls {
   int sheetUnchangedCalls_ = 0;
   std::vector<int> pageApplySent_;
   std::function<std::intptr_t(int)> applyHandler_;
-  std::optional<unsigned> wizardButtons_;
   std::function<void(unsigned)> wizardHandler_;
   std::vector<std::pair<std::string, int>> helpRequests_;
 };
