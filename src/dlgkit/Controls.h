@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "dlgkit/Clock.h"
 
@@ -82,6 +83,12 @@ class Controls {
   virtual std::intptr_t ListGetItemData(int id, int index) = 0;
   virtual std::string ListGetText(int id, int index) = 0;
   virtual int ListFindItemData(int id, std::intptr_t itemData) = 0;
+  // A list box of several selections (LBS_MULTIPLESEL / LBS_EXTENDEDSEL). LB_SETSEL: index -1
+  // (de)selects every row; false for a box of one selection or a row that doesn't exist.
+  virtual bool ListSetSel(int id, int index, bool select) = 0;
+  virtual bool ListGetSel(int id, int index) = 0;  // LB_GETSEL: the row is selected
+  // LB_GETSELITEMS: the selected rows in list order; empty for a box of one selection.
+  virtual std::vector<int> ListGetSelItems(int id) = 0;
 
   // --- list views in report mode with check boxes (LVM_*) ---
   virtual bool ListViewInsertColumn(int id, int column, std::string_view heading, int width) = 0;

@@ -38,6 +38,12 @@ class ThemedPage : public Page, public COrvDialog<T>, public CWinDataExchangeZel
     controls_ = &controls;
     window_ = window;
     this->AttachWindow(windowOps ? *windowOps : DefaultWindowOps(), window);
+    if (InitBeforeTheme()) {
+      const bool result = OnInitPage();
+      this->SubclassControls();
+      this->LoadTheme();
+      return result;
+    }
     this->SubclassControls();
     this->LoadTheme();
     return OnInitPage();
@@ -60,6 +66,9 @@ class ThemedPage : public Page, public COrvDialog<T>, public CWinDataExchangeZel
  protected:
   // The page fills its controls here; true lets the platform place the focus.
   virtual bool OnInitPage() { return true; }
+  // True for pages whose own start runs before their children are themed (the wizard's pages);
+  // by default the children are themed first.
+  virtual bool InitBeforeTheme() const { return false; }
 
  private:
   Controls* controls_ = nullptr;

@@ -155,6 +155,18 @@ void FakeControls::SelectListItem(int id, int index) {
   Command(id, kLbnSelChange);
 }
 
+void FakeControls::ToggleListItem(int id, int index) {
+  FakeControl& control = Reachable(id, "toggle");
+  if (control.kind != FakeControlKind::ListBox || !control.multiSelect)
+    throw std::logic_error("cannot toggle: " + Describe(id) + " is no list box of several selections");
+  if (!ValidIndex(index, control.items.size()))
+    throw std::logic_error("cannot toggle: no item " + std::to_string(index));
+  auto& item = control.items[static_cast<std::size_t>(index)];
+  item.selected = !item.selected;
+  control.curSel = index;  // the caret
+  Command(id, kLbnSelChange);
+}
+
 void FakeControls::ClickListViewCheck(int id, int item) {
   FakeControl& control = Reachable(id, "check");
   if (control.kind != FakeControlKind::ListView)
@@ -379,6 +391,31 @@ std::string FakeControls::ListGetText(int id, int index) {
 }
 int FakeControls::ListFindItemData(int id, std::intptr_t itemData) {
   return FindItemData(id, FakeControlKind::ListBox, itemData);
+}
+bool FakeControls::ListSetSel(int id, int index, bool select) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListBox);
+  if (!control || !control->multiSelect) return false;
+  if (index == -1) {
+    for (auto& item : control->items) item.selected = select;
+    return true;
+  }
+  if (!ValidIndex(index, control->items.size())) return false;
+  control->items[static_cast<std::size_t>(index)].selected = select;
+  return true;
+}
+bool FakeControls::ListGetSel(int id, int index) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListBox);
+  if (!control || !ValidIndex(index, control->items.size())) return false;
+  if (!control->multiSelect) return control->curSel == index;
+  return control->items[static_cast<std::size_t>(index)].selected;
+}
+std::vector<int> FakeControls::ListGetSelItems(int id) {
+  std::vector<int> rows;
+  FakeControl* control = FindKind(id, FakeControlKind::ListBox);
+  if (!control || !control->multiSelect) return rows;
+  for (std::size_t i = 0; i < control->items.size(); ++i)
+    if (control->items[i].selected) rows.push_back(static_cast<int>(i));
+  return rows;
 }
 
 bool FakeControls::ListViewInsertColumn(int id, int column, std::string_view heading, int width) {

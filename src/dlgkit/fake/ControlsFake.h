@@ -47,6 +47,7 @@ struct FakeRect {
 struct FakeListItem {
   std::string text;
   std::intptr_t data = 0;
+  bool selected = false;  // list boxes of several selections
 };
 
 struct FakeListViewRow {
@@ -60,11 +61,12 @@ struct FakeControl {
   std::string text;
   std::size_t textLimit = 0;  // edits: what the user may enter at most (EM_LIMITTEXT); 0: no limit
   int check = kBstUnchecked;
-  int radioGroup = 0;       // radio buttons with the same group exclude each other
-  bool threeState = false;  // a check box that goes checked, indeterminate, unchecked
-  bool automatic = true;    // a check box or radio button that checks itself when clicked
-  bool readOnly = false;    // an edit the user can't type into
-  bool digitsOnly = false;  // an edit that takes digits only
+  int radioGroup = 0;        // radio buttons with the same group exclude each other
+  bool threeState = false;   // a check box that goes checked, indeterminate, unchecked
+  bool automatic = true;     // a check box or radio button that checks itself when clicked
+  bool readOnly = false;     // an edit the user can't type into
+  bool digitsOnly = false;   // an edit that takes digits only
+  bool multiSelect = false;  // a list box of several selections (LBS_MULTIPLESEL)
   bool visible = true;
   bool enabled = true;
   FakeRect rect;
@@ -103,8 +105,11 @@ class FakeControls final : public Controls {
   // Push button, check box (toggles; a three-state box goes unchecked, checked, indeterminate
   // and round again, as the platform's does), radio; BN_CLICKED.
   void Click(int id);
-  void SelectComboItem(int id, int index);               // CBN_SELCHANGE
-  void SelectListItem(int id, int index);                // LBN_SELCHANGE
+  void SelectComboItem(int id, int index);  // CBN_SELCHANGE
+  void SelectListItem(int id, int index);   // LBN_SELCHANGE
+  // A click on a row of a list box of several selections: the row's selection toggles and the
+  // caret moves there; LBN_SELCHANGE.
+  void ToggleListItem(int id, int index);
   void ClickListViewCheck(int id, int item);             // toggles the check; LVN_ITEMCHANGED
   void PickDate(int id, std::optional<DateTime> value);  // DTN_DATETIMECHANGE (typed in the field)
   // Picks a day in the drop-down calendar: DTN_DATETIMECHANGE, then DTN_CLOSEUP.
@@ -161,6 +166,9 @@ class FakeControls final : public Controls {
   std::intptr_t ListGetItemData(int id, int index) override;
   std::string ListGetText(int id, int index) override;
   int ListFindItemData(int id, std::intptr_t itemData) override;
+  bool ListSetSel(int id, int index, bool select) override;
+  bool ListGetSel(int id, int index) override;
+  std::vector<int> ListGetSelItems(int id) override;
   bool ListViewInsertColumn(int id, int column, std::string_view heading, int width) override;
   bool ListViewDeleteAllItems(int id) override;
   int ListViewInsertItem(int id, int index, std::string_view text) override;

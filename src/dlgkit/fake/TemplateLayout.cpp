@@ -28,6 +28,7 @@ void AddTemplateControls(const TemplateDialog& dialog, FakeControls& controls) {
     c.automatic = t.automatic;
     c.readOnly = t.edit.readOnly;
     c.digitsOnly = t.edit.number;
+    c.multiSelect = t.multiSelect;
   }
 }
 

@@ -29,6 +29,7 @@ struct TemplateControl {
   bool threeState;  // AUTO3STATE, STATE3, BS_(AUTO)3STATE
   bool automatic;   // a button that checks itself when clicked
   TemplateEditStyle edit;
+  bool multiSelect;  // a list box of several selections: LBS_MULTIPLESEL, LBS_EXTENDEDSEL
   const char* line;  // the statement as written, for messages
 };
 

@@ -223,6 +223,29 @@ int Win32Controls::ListFindItemData(int id, std::intptr_t itemData) {
   return FindData(ITEM(id), LB_GETCOUNT, LB_GETITEMDATA, itemData);
 }
 
+bool Win32Controls::ListSetSel(int id, int index, bool select) {
+  HWND control = ITEM(id);
+  if (!control) return false;
+  return Send(control, LB_SETSEL, select ? TRUE : FALSE, static_cast<LPARAM>(index)) != LB_ERR;
+}
+
+bool Win32Controls::ListGetSel(int id, int index) {
+  HWND control = ITEM(id);
+  return control && Send(control, LB_GETSEL, static_cast<WPARAM>(index)) > 0;
+}
+
+std::vector<int> Win32Controls::ListGetSelItems(int id) {
+  std::vector<int> rows;
+  HWND control = ITEM(id);
+  if (!control) return rows;
+  const LRESULT count = Send(control, LB_GETSELCOUNT);
+  if (count <= 0) return rows;  // LB_ERR: a box of one selection
+  rows.resize(static_cast<std::size_t>(count));
+  const LRESULT got = Send(control, LB_GETSELITEMS, static_cast<WPARAM>(count), reinterpret_cast<LPARAM>(rows.data()));
+  rows.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+  return rows;
+}
+
 // --- list views ---
 
 bool Win32Controls::ListViewInsertColumn(int id, int column, std::string_view heading, int width) {

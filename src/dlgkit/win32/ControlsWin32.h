@@ -41,6 +41,9 @@ class Win32Controls final : public Controls {
   std::intptr_t ListGetItemData(int id, int index) override;
   std::string ListGetText(int id, int index) override;
   int ListFindItemData(int id, std::intptr_t itemData) override;
+  bool ListSetSel(int id, int index, bool select) override;
+  bool ListGetSel(int id, int index) override;
+  std::vector<int> ListGetSelItems(int id) override;
   bool ListViewInsertColumn(int id, int column, std::string_view heading, int width) override;
   bool ListViewDeleteAllItems(int id) override;
   int ListViewInsertItem(int id, int index, std::string_view text) override;

@@ -1,0 +1,1 @@
+#include "seasonal/SznWzrdPgForm.h"

@@ -1,0 +1,1 @@
+#include "seasonal/SznWzrdPgFut2.h"

@@ -1,0 +1,9 @@
+#pragma once
+// CSznWzrdPgSnglInstMid: the wizard page of the symbol of a cash futures spread.
+
+#include "seasonal/SznWzrdPg.h"
+
+class CSznWzrdPgSnglInstMid final : public orv::seasonal::CWzrdPg<CSznWzrdPgSnglInstMid, IDD_SZN_SNGLINSTMID> {
+ public:
+  using CWzrdPg::CWzrdPg;
+};

@@ -1,0 +1,1 @@
+#include "seasonal/SznWzrdPgYrCount.h"
