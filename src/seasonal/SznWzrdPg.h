@@ -27,11 +27,16 @@ enum WizardPagePosition : int { kPosFinishOnly = 0, kPosFirst = 1, kPosMiddle = 
 // The PSWIZB_* flags of a position; 0 for a position outside 0-3 (then nothing is set).
 constexpr unsigned WizardButtonsOf(int position) {
   switch (position) {
-    case kPosFinishOnly: return kWizFinish;
-    case kPosFirst: return kWizNext;
-    case kPosMiddle: return kWizBack | kWizNext;
-    case kPosLast: return kWizBack | kWizFinish;
-    default: return 0;
+    case kPosFinishOnly:
+      return kWizFinish;
+    case kPosFirst:
+      return kWizNext;
+    case kPosMiddle:
+      return kWizBack | kWizNext;
+    case kPosLast:
+      return kWizBack | kWizFinish;
+    default:
+      return 0;
   }
 }
 

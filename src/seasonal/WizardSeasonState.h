@@ -47,10 +47,10 @@ inline constexpr int kFormFuturesSpread = 3;
 inline constexpr int kFormCashFuturesSpread = 4;
 
 struct WizardSeasonState {
-  SeasonDate Start;         // first day of the season in the season's start year
-  SeasonDate End;           // last day of the season (it carries the year of Start)
-  int YearEnterMode = -1;   // 0: years from a list; above 0: a count; 1: one contract only
-  int YearsBack = -1;       // years of history, 1 to 99 on the count page
+  SeasonDate Start;                 // first day of the season in the season's start year
+  SeasonDate End;                   // last day of the season (it carries the year of Start)
+  int YearEnterMode = -1;           // 0: years from a list; above 0: a count; 1: one contract only
+  int YearsBack = -1;               // years of history, 1 to 99 on the count page
   std::vector<int> SelYears;        // calendar years picked, in list order (most recent first)
   std::vector<int> SelYearIndexes;  // the same picks as distances from the current year
   int FormSel = -1;                 // kForm*
