@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "XmlTestSupport.h"
 #include "seasonal/WizardSeasonState.h"
 
 namespace orv::seasonal {
@@ -312,7 +313,7 @@ TEST(WriteContractList, ReplacesTheOldNodesUnderTheRoot) {
     XmlNode document = Document(kOld);
     EXPECT_TRUE(WriteContractList(state, document)) << row.name;
     // The YearsBack found first lies in the old Context; the one under the root stays.
-    EXPECT_EQ(XmlGetXml(XmlFirstChild(document)),
+    EXPECT_EQ(xmltest::Markup(XmlFirstChild(document)),
               std::string("<PropertySheet Name=\"SznWzrdPs\"><Context/><YearsBack>7</YearsBack>") +
                   row.added + "</PropertySheet>")
         << row.name;
@@ -378,7 +379,7 @@ constexpr char kFinishedContext[] =
 TEST(WriteContext, ReplacesTheContextAtTheEndOfTheRoot) {
   XmlNode document = Document("<Context><FormSel>1</FormSel></Context><ContractList/>");
   WriteContext(Finished(), document);
-  EXPECT_EQ(XmlGetXml(XmlFirstChild(document)),
+  EXPECT_EQ(xmltest::Markup(XmlFirstChild(document)),
             std::string("<PropertySheet Name=\"SznWzrdPs\"><ContractList/>") + kFinishedContext +
                 "</PropertySheet>");
 }
@@ -388,7 +389,7 @@ TEST(WriteContext, WritesEveryListEvenEmpty) {
   WizardSeasonState state;
   state.Multiplier1 = 0.0;
   WriteContext(state, document);
-  EXPECT_EQ(XmlGetXml(XmlFirstChild(document)),
+  EXPECT_EQ(xmltest::Markup(XmlFirstChild(document)),
             "<PropertySheet Name=\"SznWzrdPs\"><Context><FormSel>-1</FormSel><YearsBack>-1</YearsBack>"
             "<MonthDayWindow Start=\"0\" End=\"0\"/><SelYearList/><SymbolList><Symbol></Symbol>"
             "<Symbol></Symbol></SymbolList><FutureList><Future Root=\"\" Month=\"-1\" Multiplier=\"0.000000\"/>"
@@ -410,7 +411,7 @@ TEST(WizardSources, AWrittenContextReadsBackToTheSameStateAndText) {
   WizardSeasonState state;
   ReadContext(state, document);
   WriteContext(state, document);
-  EXPECT_EQ(XmlGetXml(XmlFirstChild(document)),
+  EXPECT_EQ(xmltest::Markup(XmlFirstChild(document)),
             std::string("<PropertySheet Name=\"SznWzrdPs\">") + kFinishedContext + "</PropertySheet>");
   WizardSeasonState again;
   ReadContext(again, Document(XmlGetXml(XmlFindNode(document, "Context", true))));
