@@ -41,7 +41,8 @@ void RegistryHistory::Add(std::string_view text) {
 
 void RegistryHistory::Save() {
   for (std::size_t i = 0; i < entries_.size(); ++i) store_.WriteString(keyPath_, NameOf(i + 1), entries_[i]);
-  for (std::size_t number = entries_.size() + 1; number <= limit_; ++number) store_.DeleteValue(keyPath_, NameOf(number));
+  for (std::size_t number = entries_.size() + 1; number <= limit_; ++number)
+    store_.DeleteValue(keyPath_, NameOf(number));
 }
 
 }  // namespace orv::seasonal

@@ -250,8 +250,7 @@ bool WriteContractList(const WizardSeasonState& state, XmlNode document) {
 }
 
 void WriteHistory(const WizardSeasonState& state, SettingsStore& store) {
-  SaveText(store, kHistStartEndMonth,
-           orv::StrFormat("%d?%d", Truncate(state.Start.value), Truncate(state.End.value)));
+  SaveText(store, kHistStartEndMonth, orv::StrFormat("%d?%d", Truncate(state.Start.value), Truncate(state.End.value)));
   SaveNumbers(store, kHistSelYears, state.SelYearIndexes);
   SaveText(store, kHistSymbol, orv::StrFormat("%s?%s", state.Symbol1.c_str(), state.Symbol2.c_str()));
   store.WriteDword(kSeasonalKey, kValueFormSel, static_cast<std::uint32_t>(state.FormSel));

@@ -27,10 +27,10 @@ std::vector<int> AsKept(const std::vector<int>& added) {
 }
 
 std::string HistoryFields(const WizardSeasonState& s, bool asKept) {
-  std::string out = orv::StrFormat("%d|%d|%d|%d|%s|%s|%s|%s|%d|%d|%f|%f|", static_cast<int>(s.Start.value),
-                                   static_cast<int>(s.End.value), s.FormSel, s.YearsBack, s.Symbol1.c_str(),
-                                   s.Symbol2.c_str(), s.Root1.c_str(), s.Root2.c_str(), s.Month1, s.Month2,
-                                   s.Multiplier1, s.Multiplier2);
+  std::string out =
+      orv::StrFormat("%d|%d|%d|%d|%s|%s|%s|%s|%d|%d|%f|%f|", static_cast<int>(s.Start.value),
+                     static_cast<int>(s.End.value), s.FormSel, s.YearsBack, s.Symbol1.c_str(), s.Symbol2.c_str(),
+                     s.Root1.c_str(), s.Root2.c_str(), s.Month1, s.Month2, s.Multiplier1, s.Multiplier2);
   for (const auto* list : {&s.SelYearIndexes, &s.Years1, &s.Years2}) {
     for (int v : asKept ? AsKept(*list) : *list) out += orv::StrFormat("%d,", v);
     out += '|';

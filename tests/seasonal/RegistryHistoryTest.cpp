@@ -90,8 +90,9 @@ TEST(RegistryHistory, SaveWritesFromOneAndDeletesTheRestUpToTheLimit) {
   history.Add("x");
   history.Add("y");
   history.Save();
-  EXPECT_EQ(ValuesOf(store, kKey), (std::map<std::string, std::string>{
-                                       {"H1", "s:y"}, {"H2", "s:x"}, {"H6", "s:beyond the limit"}, {"Other", "s:kept"}}));
+  EXPECT_EQ(ValuesOf(store, kKey),
+            (std::map<std::string, std::string>{
+                {"H1", "s:y"}, {"H2", "s:x"}, {"H6", "s:beyond the limit"}, {"Other", "s:kept"}}));
 
   RegistryHistory empty(store, kKey, "H%d", 5);
   empty.Save();

@@ -16,8 +16,8 @@ namespace {
 class SavedWizardKey {
  public:
   explicit SavedWizardKey(SettingsStore& store) : store_(store) {
-    for (const char* format : {kHistStartEndMonth, kHistSelYears, kHistSymbol, kHistFutureRoot, kHistFutureYr1,
-                               kHistFutureYr2}) {
+    for (const char* format :
+         {kHistStartEndMonth, kHistSelYears, kHistSymbol, kHistFutureRoot, kHistFutureYr1, kHistFutureYr2}) {
       for (std::size_t i = 1; i <= kHistoryLimit; ++i) {
         std::string name = format;
         name.replace(name.find("%d"), 2, std::to_string(i));

@@ -167,10 +167,10 @@ TEST(ReadHistory, FillsWhatTheContextLeftOpen) {
       {"a short record leaves multipliers of 0",
        StoreOf({{"Snl3WizStartEndMonth_1", "46327", 0}, {"Snl3WizFutureRoot_1", "@W?@K?3", 0}}),
        "window 46327-0 mode -1 back -1 sel [] form 0 sym '' '' root '@W' 3 x0 '@K' 0 x0 years [] []"},
-      {"DWORDs of the wrong type read as absent",
-       StoreOf({{"Snl3WizFormSel", "3", 0}, {"Snl3WizYearsBack", "12", 0}}),
+      {"DWORDs of the wrong type read as absent", StoreOf({{"Snl3WizFormSel", "3", 0}, {"Snl3WizYearsBack", "12", 0}}),
        "window 46023-46387 mode -1 back -1 sel [] form 0 sym '' '' root '' -1 x1 '' -1 x1 years [] []"},
-      {"DWORDs are taken as they stand", StoreOf({{"Snl3WizFormSel", nullptr, 0xFFFFFFFFu}, {"Snl3WizYearsBack", nullptr, 0}}),
+      {"DWORDs are taken as they stand",
+       StoreOf({{"Snl3WizFormSel", nullptr, 0xFFFFFFFFu}, {"Snl3WizYearsBack", nullptr, 0}}),
        "window 46023-46387 mode -1 back 0 sel [] form -1 sym '' '' root '' -1 x1 '' -1 x1 years [] []"},
       {"numbers by atoi; repeated texts and empty values skipped",
        StoreOf({{"Snl3WizSelYears_1", "3", 0},
@@ -285,21 +285,39 @@ TEST(WriteContractList, ReplacesTheOldNodesUnderTheRoot) {
     const char* added;
   };
   const Row rows[] = {
-      {"one contract a year; a missing label is empty", 0, {2026, 2025, 2024}, true,
+      {"one contract a year; a missing label is empty",
+       0,
+       {2026, 2025, 2024},
+       true,
        "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"
        "<ContractList><Contract Symbol=\"@C2027H - @S2026K\" Year=\"2026\"/>"
        "<Contract Symbol=\"@C2026H - @S2025K\" Year=\"2025\"/><Contract Symbol=\"\" Year=\"2024\"/></ContractList>"},
-      {"no years, no list", 0, {}, true,
+      {"no years, no list",
+       0,
+       {},
+       true,
        "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"},
-      {"mode 1: exactly one contract, of year -1 without years", 1, {}, true,
+      {"mode 1: exactly one contract, of year -1 without years",
+       1,
+       {},
+       true,
        "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"
        "<ContractList><Contract Symbol=\"@C2027H - @S2026K\" Year=\"-1\"/></ContractList>"},
-      {"mode 1 with years still gives one", 1, {2026, 2025}, true,
+      {"mode 1 with years still gives one",
+       1,
+       {2026, 2025},
+       true,
        "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"
        "<ContractList><Contract Symbol=\"@C2027H - @S2026K\" Year=\"2026\"/></ContractList>"},
-      {"mode 2 (the Years page not on the way): no list", 2, {}, true,
+      {"mode 2 (the Years page not on the way): no list",
+       2,
+       {},
+       true,
        "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"},
-      {"invalid dates give month -1", 0, {}, false,
+      {"invalid dates give month -1",
+       0,
+       {},
+       false,
        "<StartMonthIndex>-1</StartMonthIndex><EndMonthIndex>-1</EndMonthIndex><YearsBack>5</YearsBack>"},
   };
   for (const Row& row : rows) {
@@ -314,15 +332,13 @@ TEST(WriteContractList, ReplacesTheOldNodesUnderTheRoot) {
     EXPECT_TRUE(WriteContractList(state, document)) << row.name;
     // The YearsBack found first lies in the old Context; the one under the root stays.
     EXPECT_EQ(xmltest::Markup(XmlFirstChild(document)),
-              std::string("<PropertySheet Name=\"SznWzrdPs\"><Context/><YearsBack>7</YearsBack>") +
-                  row.added + "</PropertySheet>")
+              std::string("<PropertySheet Name=\"SznWzrdPs\"><Context/><YearsBack>7</YearsBack>") + row.added +
+                  "</PropertySheet>")
         << row.name;
   }
 }
 
-TEST(WriteContractList, WithoutDocumentAnswersFalse) {
-  EXPECT_FALSE(WriteContractList(Finished(), XmlNode()));
-}
+TEST(WriteContractList, WithoutDocumentAnswersFalse) { EXPECT_FALSE(WriteContractList(Finished(), XmlNode())); }
 
 TEST(WriteHistory, ReplacesEveryHistoryWithTheRun) {
   MemorySettingsStore store;
@@ -380,8 +396,7 @@ TEST(WriteContext, ReplacesTheContextAtTheEndOfTheRoot) {
   XmlNode document = Document("<Context><FormSel>1</FormSel></Context><ContractList/>");
   WriteContext(Finished(), document);
   EXPECT_EQ(xmltest::Markup(XmlFirstChild(document)),
-            std::string("<PropertySheet Name=\"SznWzrdPs\"><ContractList/>") + kFinishedContext +
-                "</PropertySheet>");
+            std::string("<PropertySheet Name=\"SznWzrdPs\"><ContractList/>") + kFinishedContext + "</PropertySheet>");
 }
 
 TEST(WriteContext, WritesEveryListEvenEmpty) {

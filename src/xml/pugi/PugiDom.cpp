@@ -237,7 +237,7 @@ Node FirstChild(const NodeImpl& impl) {
 
 Node NextSibling(const NodeImpl& impl) {
   if (impl.kind != NodeImpl::Kind::Node) return nullptr;  // attributes are no children
-  if (IsHolder(impl.node.parent())) return nullptr;  // removed: no siblings
+  if (IsHolder(impl.node.parent())) return nullptr;       // removed: no siblings
   return MakeNode(impl.Tree(), Visible(impl.node.next_sibling()));
 }
 
