@@ -1,5 +1,7 @@
 // The wizard's history in the current user's registry: what a finished run writes, the next run
 // reads; values of the wrong type read as absent. The key is restored afterwards.
+#include <windows.h>
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -111,6 +113,34 @@ TEST(WizardHistoryRegistry, DwordsOfTheWrongTypeReadAsAbsent) {
   ReadHistory(next, *store, FixedClock(DateTime{2026, 11, 24}));
   EXPECT_EQ(next.FormSel, 0);
   EXPECT_EQ(next.YearsBack, -1);
+}
+
+// A value of a raw registry type, as another program might have left it.
+void SetRaw(const char* name, DWORD type, const void* data, DWORD size) {
+  HKEY key = nullptr;
+  ASSERT_EQ(RegCreateKeyExA(HKEY_CURRENT_USER, kSeasonalKey, 0, nullptr, 0, KEY_SET_VALUE, nullptr, &key, nullptr),
+            ERROR_SUCCESS);
+  EXPECT_EQ(RegSetValueExA(key, name, 0, type, static_cast<const BYTE*>(data), size), ERROR_SUCCESS);
+  RegCloseKey(key);
+}
+
+TEST(WizardHistoryRegistry, ValuesOfOtherRegistryTypesReadAsAbsent) {
+  std::unique_ptr<SettingsStore> store = CreateUserSettingsStore();
+  ASSERT_TRUE(store);
+  SavedWizardKey saved(*store);
+  const DWORD three = 3;
+  const unsigned long long seven = 7;
+  SetRaw(kValueFormSel, REG_BINARY, &three, sizeof three);
+  SetRaw(kValueYearsBack, REG_QWORD, &seven, sizeof seven);
+  SetRaw("Snl3WizSymbol_1", REG_EXPAND_SZ, "CL?HO", 6);
+  SetRaw("Snl3WizSymbol_2", REG_SZ, "NG?HO", 6);
+  SetRaw("Snl3WizSelYears_1", REG_DWORD, &three, sizeof three);
+  WizardSeasonState next;
+  ReadHistory(next, *store, FixedClock(DateTime{2026, 11, 24}));
+  EXPECT_EQ(next.FormSel, 0);
+  EXPECT_EQ(next.YearsBack, -1);
+  EXPECT_EQ(next.Symbol1, "NG");
+  EXPECT_TRUE(next.SelYearIndexes.empty());
 }
 
 }  // namespace
