@@ -19,10 +19,10 @@ using orv::MemorySettingsStore;
 using szntest::WizardRun;
 
 // The twelve pages in the order of the page table.
-constexpr const char* kPageNames[] = {"SznWzrdPgSeason",     "SznWzrdPgYears",     "SznWzrdPgYrCount",
-                                      "SznWzrdPgForm",       "SznWzrdPgFut1",      "SznWzrdPgFut2",
-                                      "SznWzrdPgCashSprd",   "SznWzrdPgSnglRootFut", "SznWzrdPgSnglInst",
-                                      "SznWzrdPgSnglInstMid", "SznWzrdPgMult",     "SznWzrdPgConstr"};
+constexpr const char* kPageNames[] = {"SznWzrdPgSeason",      "SznWzrdPgYears",       "SznWzrdPgYrCount",
+                                      "SznWzrdPgForm",        "SznWzrdPgFut1",        "SznWzrdPgFut2",
+                                      "SznWzrdPgCashSprd",    "SznWzrdPgSnglRootFut", "SznWzrdPgSnglInst",
+                                      "SznWzrdPgSnglInstMid", "SznWzrdPgMult",        "SznWzrdPgConstr"};
 
 std::string PageList() {
   std::string list = "<PropertyPageList>";
@@ -201,8 +201,9 @@ TEST(SznWizard, CountOfYearsTakesTheShortPathToOneSymbol) {
   };
   const Row rows[] = {
       // One contract of a year nobody picked, and YearsBack to go by.
-      {1, "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>3</YearsBack>"
-          "<ContractList><Contract Symbol=\"CORN\" Year=\"-1\"/></ContractList>"},
+      {1,
+       "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>3</YearsBack>"
+       "<ContractList><Contract Symbol=\"CORN\" Year=\"-1\"/></ContractList>"},
       // No contract list at all: only YearsBack.
       {2, "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>3</YearsBack>"},
   };
