@@ -12,7 +12,6 @@
 
 namespace orv {
 
-
 struct StatusEvent {
   std::int32_t type;
   std::string value;
