@@ -20,9 +20,7 @@ constexpr const char* kFormTexts[5] = {
 
 }  // namespace
 
-const char* CSznWzrdPgForm::FormText(int formSel) {
-  return formSel >= 0 && formSel < 5 ? kFormTexts[formSel] : "";
-}
+const char* CSznWzrdPgForm::FormText(int formSel) { return formSel >= 0 && formSel < 5 ? kFormTexts[formSel] : ""; }
 
 bool CSznWzrdPgForm::OnInitPage() {
   const int form = State().FormSel;

@@ -45,18 +45,24 @@ std::vector<Wanted> Futures(int title, const char* titleText, int help, int base
   std::vector<Wanted> wanted = {{title, Kind::Static, titleText}};
   if (help) wanted.push_back({help, Kind::Edit, nullptr, kHelp});
   const std::vector<Wanted> rest = {
-      {base, Kind::Static, "Root:"},          {base + 1, Kind::Edit},
-      {base + 2, Kind::Static, "Month:"},     {base + 3, Kind::ComboBox},
-      {base + 4, Kind::Static, "Years:"},     {base + 5, Kind::ListBox, nullptr, kMultiSelect},
-      {base + 6, Kind::PushButton, nullptr, kHidden}, {base + 7, Kind::Static, "@"},
+      {base, Kind::Static, "Root:"},
+      {base + 1, Kind::Edit},
+      {base + 2, Kind::Static, "Month:"},
+      {base + 3, Kind::ComboBox},
+      {base + 4, Kind::Static, "Years:"},
+      {base + 5, Kind::ListBox, nullptr, kMultiSelect},
+      {base + 6, Kind::PushButton, nullptr, kHidden},
+      {base + 7, Kind::Static, "@"},
   };
   wanted.insert(wanted.end(), rest.begin(), rest.end());
   return wanted;
 }
 
 std::vector<Wanted> Symbol(int base) {
-  return {{base, Kind::Static, "Enter Symbol"},   {base + 1, Kind::Edit, nullptr, kHelp},
-          {base + 2, Kind::Static, "Symbol:"},    {base + 3, Kind::Edit},
+  return {{base, Kind::Static, "Enter Symbol"},
+          {base + 1, Kind::Edit, nullptr, kHelp},
+          {base + 2, Kind::Static, "Symbol:"},
+          {base + 3, Kind::Edit},
           {base + 4, Kind::PushButton, nullptr, kHidden}};
 }
 
@@ -228,9 +234,8 @@ TEST(SznTemplates, HelpDividerAndInputsKeepTheirSidesAndDontOverlap) {
     EXPECT_TRUE(divider);
     for (std::size_t i = 0; i < dialog.controls.size(); ++i) {
       for (std::size_t j = i + 1; j < dialog.controls.size(); ++j) {
-        EXPECT_FALSE(Overlap(Closed(dialog.controls[i]), Closed(dialog.controls[j])))
-            << dialog.controls[i].line << "\n"
-            << dialog.controls[j].line;
+        EXPECT_FALSE(Overlap(Closed(dialog.controls[i]), Closed(dialog.controls[j]))) << dialog.controls[i].line << "\n"
+                                                                                      << dialog.controls[j].line;
       }
     }
   }

@@ -11,8 +11,8 @@ namespace {
 using szntest::FirstRunState;
 using szntest::WizardRun;
 
-constexpr int kRadios[] = {IDC_SZN_FORM_SNGLINST, IDC_SZN_FORM_SNGLROOTFUT, IDC_SZN_FORM_CASHSPRD,
-                           IDC_SZN_FORM_FUTSPRD, IDC_SZN_FORM_CASHFUTSPRD};
+constexpr int kRadios[] = {IDC_SZN_FORM_SNGLINST, IDC_SZN_FORM_SNGLROOTFUT, IDC_SZN_FORM_CASHSPRD, IDC_SZN_FORM_FUTSPRD,
+                           IDC_SZN_FORM_CASHFUTSPRD};
 
 struct Form {
   const char* caption;
@@ -27,7 +27,8 @@ const Form kForms[] = {
      "Single Root Futures are the seasonal difference of futures contracts which share a common root symbol and "
      "month code while differing by contract years.\r\n\r\nExample:\r\nQNG20F\r\nQNG19F\r\nQNG18F",
      IDD_SZN_SNGLROOTFUT},
-    {"Cash Spread", "Cash spreads split the seasonal difference between two non-futures contracts over different years.",
+    {"Cash Spread",
+     "Cash spreads split the seasonal difference between two non-futures contracts over different years.",
      IDD_SZN_CASHSPRD},
     {"Futures Spread",
      "Futures spreads are the seasonal difference between two groups of futures contracts where those contracts "
