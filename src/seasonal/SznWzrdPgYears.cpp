@@ -24,8 +24,10 @@ bool CSznWzrdPgYears::OnInitPage() {
   ctl.ListResetContent(IDC_SZN_YEARS_LIST);
   for (int i = 0; i < kRows; ++i) ctl.ListAddString(IDC_SZN_YEARS_LIST, orv::StrFormat("%d", year - i), year - i);
   const std::vector<int> picks = State().SelYearIndexes.empty() ? std::vector<int>{0, 1, 2} : State().SelYearIndexes;
-  // An index beyond the list selects nothing.
-  for (int index : picks) ctl.ListSetSel(IDC_SZN_YEARS_LIST, index, true);
+  // An index that is no row selects nothing (-1 would select them all).
+  for (int index : picks) {
+    if (index >= 0) ctl.ListSetSel(IDC_SZN_YEARS_LIST, index, true);
+  }
   ShowCount();
   return true;
 }

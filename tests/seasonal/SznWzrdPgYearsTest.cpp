@@ -60,6 +60,7 @@ TEST(SznWzrdPgYears, StartsFromTheKeptIndexesOrTheThreeMostRecentYears) {
       {"one index", {0}, {0}, "Total: 1"},
       {"the last row", {49}, {49}, "Total: 1"},
       {"an index past the list", {2, 50}, {2}, "Total: 1"},
+      {"a negative index", {-1, 3}, {3}, "Total: 1"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
