@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "../seasonal/SznWizardRun.h"
+#include "../seasonal/SznSheetRun.h"
 #include "dlgkit/fake/HeadlessSheetRunner.h"
 #include "seasonal/SznWzrdPs.h"
 #include "xml/Xml.h"

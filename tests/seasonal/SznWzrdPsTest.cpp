@@ -9,14 +9,14 @@
 #include <string>
 #include <vector>
 
-#include "SznWizardRun.h"
+#include "SznSheetRun.h"
 #include "dlgkit/Page.h"
 
 namespace {
 
 using orv::HeadlessSheetRunner;
 using orv::MemorySettingsStore;
-using szntest::WizardRun;
+using WizardRun = szntest::SheetRun;
 
 // The twelve pages in the order of the page table.
 constexpr const char* kPageNames[] = {"SznWzrdPgSeason",      "SznWzrdPgYears",       "SznWzrdPgYrCount",
