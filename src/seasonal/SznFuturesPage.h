@@ -69,7 +69,7 @@ class CSznFuturesPage : public CWzrdPg<T, Id> {
     const SznFuturesTraits& t = Traits();
     WizardSeasonState& state = this->State();
     Controls& ctl = this->Ctl();
-    DDX_Text(ctl, t.root, state.*t.rootField, false);
+    seasonal::DDX_Text(ctl, t.root, state.*t.rootField, false);
     ctl.SetDlgItemTextA(t.help, t.helpText);
 
     ctl.ListResetContent(t.years);
@@ -119,7 +119,8 @@ class CSznFuturesPage : public CWzrdPg<T, Id> {
 
   void ShowCount() {
     const SznFuturesTraits& t = Traits();
-    this->Ctl().SetDlgItemTextA(t.count, StrFormat("Total: %d", static_cast<int>(this->Ctl().ListGetSelItems(t.years).size())));
+    this->Ctl().SetDlgItemTextA(t.count,
+                                StrFormat("Total: %d", static_cast<int>(this->Ctl().ListGetSelItems(t.years).size())));
   }
 
   void Refuse(const std::string& text) { this->Ctl().OrvMessageBox(text, "", 0); }
@@ -128,7 +129,7 @@ class CSznFuturesPage : public CWzrdPg<T, Id> {
     const SznFuturesTraits& t = Traits();
     WizardSeasonState& state = this->State();
     Controls& ctl = this->Ctl();
-    if (!DDX_Text(ctl, t.root, state.*t.rootField, true)) return Checked::RootUnread;
+    if (!seasonal::DDX_Text(ctl, t.root, state.*t.rootField, true)) return Checked::RootUnread;
     this->DDX_ComboData(t.month, &(state.*t.monthField), true);
     if ((state.*t.rootField).empty()) {
       Refuse("Error Empty Root Symbol");

@@ -50,7 +50,8 @@ class User {
 
  private:
   static BOOL CALLBACK FindSheet(HWND window, LPARAM found) {
-    if (::IsWindowVisible(window) && ::IsWindowEnabled(window) && ::SendMessageA(window, PSM_GETCURRENTPAGEHWND, 0, 0)) {
+    if (::IsWindowVisible(window) && ::IsWindowEnabled(window) &&
+        ::SendMessageA(window, PSM_GETCURRENTPAGEHWND, 0, 0)) {
       *reinterpret_cast<HWND*>(found) = window;
       return FALSE;
     }

@@ -52,11 +52,9 @@ TEST(SznCashSpreadPage, NextStoresBothSymbolsAndAsksForEach) {
     bool refused;
   };
   const Row rows[] = {
-      {"", "INDU.X", true},
-      {"MSFT", "", true},
-      {"", "", true},
-      {"IBM", "QCL", false},
-      {"IBM", "IBM", false},  // the help asks for two different ones; nothing holds the user to it
+      {"", "INDU.X", true},  {"MSFT", "", true},    {"", "", true},
+      {"IBM", "QCL", false}, {"IBM", "IBM", false},  // the help asks for two different ones; nothing holds the user to
+                                                     // it
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(std::string(row.symbol1) + " / " + row.symbol2);

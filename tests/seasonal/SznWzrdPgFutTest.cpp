@@ -46,34 +46,20 @@ const FutPage kFut1{"First Futures",
                     &WizardSeasonState::Month1,
                     &WizardSeasonState::Years1,
                     false};
-const FutPage kFut2{"Second Futures",
-                    IDD_SZN_FUT2,
-                    IDC_SZN_FUT2_TITLE,
-                    IDC_SZN_FUT2_HELP,
-                    IDC_SZN_FUT2_ROOT,
-                    IDC_SZN_FUT2_MONTH,
-                    IDC_SZN_FUT2_YEARS,
-                    IDC_SZN_FUT2_COUNT,
-                    IDC_SZN_FUT2_LOOKUP,
-                    "Second set of futures contracts",
-                    &WizardSeasonState::Root2,
-                    &WizardSeasonState::Month2,
-                    &WizardSeasonState::Years2,
-                    false};
-const FutPage kSnglRoot{"Single Root Futures",
-                        IDD_SZN_SNGLROOTFUT,
-                        IDC_SZN_SNGLROOT_TITLE,
-                        IDC_SZN_SNGLROOT_HELP,
-                        IDC_SZN_SNGLROOT_ROOT,
-                        IDC_SZN_SNGLROOT_MONTH,
-                        IDC_SZN_SNGLROOT_YEARS,
-                        IDC_SZN_SNGLROOT_COUNT,
-                        IDC_SZN_SNGLROOT_LOOKUP,
-                        "Select Futures",
-                        &WizardSeasonState::Root1,
-                        &WizardSeasonState::Month1,
-                        &WizardSeasonState::Years1,
-                        true};
+const FutPage kFut2{"Second Futures",           IDD_SZN_FUT2,
+                    IDC_SZN_FUT2_TITLE,         IDC_SZN_FUT2_HELP,
+                    IDC_SZN_FUT2_ROOT,          IDC_SZN_FUT2_MONTH,
+                    IDC_SZN_FUT2_YEARS,         IDC_SZN_FUT2_COUNT,
+                    IDC_SZN_FUT2_LOOKUP,        "Second set of futures contracts",
+                    &WizardSeasonState::Root2,  &WizardSeasonState::Month2,
+                    &WizardSeasonState::Years2, false};
+const FutPage kSnglRoot{"Single Root Futures",      IDD_SZN_SNGLROOTFUT,
+                        IDC_SZN_SNGLROOT_TITLE,     IDC_SZN_SNGLROOT_HELP,
+                        IDC_SZN_SNGLROOT_ROOT,      IDC_SZN_SNGLROOT_MONTH,
+                        IDC_SZN_SNGLROOT_YEARS,     IDC_SZN_SNGLROOT_COUNT,
+                        IDC_SZN_SNGLROOT_LOOKUP,    "Select Futures",
+                        &WizardSeasonState::Root1,  &WizardSeasonState::Month1,
+                        &WizardSeasonState::Years1, true};
 const FutPage* const kFutPages[] = {&kFut1, &kFut2, &kSnglRoot};
 
 // Three chart years picked on the Years page in 2026: this year, the year before and 2020; the
@@ -234,28 +220,36 @@ const Check kChecks[] = {
        c.TypeText(p.root, "");
        c.SelectComboItem(p.month, 4);
      },
-     "Error Empty Root Symbol", true, {}},
+     "Error Empty Root Symbol",
+     true,
+     {}},
     {"no year",
      [](FakeControls& c, const FutPage& p) {
        c.TypeText(p.root, "QHO");
        c.SelectComboItem(p.month, 4);
        for (int row : c.ListGetSelItems(p.years)) c.ToggleListItem(p.years, row);
      },
-     "Must select at least one year", false, {}},
+     "Must select at least one year",
+     false,
+     {}},
     {"fewer years than chart years",
      [](FakeControls& c, const FutPage& p) {
        c.TypeText(p.root, "QHO");
        c.SelectComboItem(p.month, 4);
        c.ToggleListItem(p.years, 10);
      },
-     "Error must select 3 contract years", false, {}},
+     "Error must select 3 contract years",
+     false,
+     {}},
     {"more years than chart years",
      [](FakeControls& c, const FutPage& p) {
        c.TypeText(p.root, "QHO");
        c.SelectComboItem(p.month, 4);
        c.ToggleListItem(p.years, 0);
      },
-     "Error must select 3 contract years", false, {}},
+     "Error must select 3 contract years",
+     false,
+     {}},
     {"as many years: stored in list order",
      [](FakeControls& c, const FutPage& p) {
        c.TypeText(p.root, "QHO");
@@ -263,7 +257,9 @@ const Check kChecks[] = {
        c.ToggleListItem(p.years, 16);  // 2020 off
        c.ToggleListItem(p.years, 2);   // 2034 on, above the others
      },
-     "", false, {2034, 2026, 2025}},
+     "",
+     false,
+     {2034, 2026, 2025}},
 };
 
 TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
@@ -275,7 +271,8 @@ TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
       w.State().FormSel = page->singleRoot ? 1 : 3;
       // The futures pages select the chart years (their own differ in count); the single root page
       // selects its own years, the same three.
-      const std::vector<int> yearsBefore = page->singleRoot ? std::vector<int>{2026, 2025, 2020} : std::vector<int>{1999};
+      const std::vector<int> yearsBefore =
+          page->singleRoot ? std::vector<int>{2026, 2025, 2020} : std::vector<int>{1999};
       w.State().*page->yearsField = yearsBefore;
       w.Start(page->dialogId);
       FakeControls& c = w.Controls(page->dialogId);

@@ -35,7 +35,7 @@ TEST(SznMultipliersPage, StartShowsBothMultipliersToFifteenDigitsAndTheHelp) {
     double value;
     const char* shown;
   };
-  const Row rows[] = {{1.0, "1"}, {2.5, "2.5"}, {0.1, "0.1"}, {-3.0, "-3"}, {1.0 / 3.0, "0.333333333333333"},
+  const Row rows[] = {{1.0, "1"},       {2.5, "2.5"}, {0.1, "0.1"}, {-3.0, "-3"}, {1.0 / 3.0, "0.333333333333333"},
                       {1e-20, "1e-20"}, {0.0, "0"}};
   for (const Row& row : rows) {
     SCOPED_TRACE(row.shown);
