@@ -113,8 +113,8 @@ foreach(rc IN LISTS ORV_RC_FILES)
       continue()
     endif()
     if(line STREQUAL "END")
+      # A template without controls has an empty span: C++ has no arrays of size 0.
       if(controls STREQUAL "")
-        # A template without controls has no array (C++ has none of size 0): an empty span.
         string(APPEND table "    {${dialog}, ${caption}, ${cx}, ${cy}, {}},\n")
       else()
         string(APPEND body "inline constexpr orv::TemplateControl k${dialog}Controls[] = {\n${controls}};\n\n")

@@ -21,7 +21,6 @@
 #include "dlgkit/Controls.h"
 #include "seasonal/SznFlow.h"
 #include "seasonal/SznTables.h"
-#include "seasonal/SznText.h"
 #include "seasonal/SznWzrdPg.h"
 #include "xml/StrFormat.h"
 
@@ -69,7 +68,7 @@ class CSznFuturesPage : public CWzrdPg<T, Id> {
     const SznFuturesTraits& t = Traits();
     WizardSeasonState& state = this->State();
     Controls& ctl = this->Ctl();
-    seasonal::DDX_Text(ctl, t.root, state.*t.rootField, false);
+    this->DDX_Text(t.root, &(state.*t.rootField), false);
     ctl.SetDlgItemTextA(t.help, t.helpText);
 
     ctl.ListResetContent(t.years);
@@ -129,7 +128,7 @@ class CSznFuturesPage : public CWzrdPg<T, Id> {
     const SznFuturesTraits& t = Traits();
     WizardSeasonState& state = this->State();
     Controls& ctl = this->Ctl();
-    if (!seasonal::DDX_Text(ctl, t.root, state.*t.rootField, true)) return Checked::RootUnread;
+    if (!this->DDX_Text(t.root, &(state.*t.rootField), true)) return Checked::RootUnread;
     this->DDX_ComboData(t.month, &(state.*t.monthField), true);
     if ((state.*t.rootField).empty()) {
       Refuse("Error Empty Root Symbol");

@@ -1,7 +1,6 @@
 #include "seasonal/SznWzrdPgCashSprd.h"
 
 #include "seasonal/SznFlow.h"
-#include "seasonal/SznText.h"
 
 namespace {
 
@@ -12,15 +11,15 @@ constexpr const char* kHelpText =
 }  // namespace
 
 bool CSznWzrdPgCashSprd::OnInitPage() {
-  orv::seasonal::DDX_Text(Ctl(), IDC_SZN_CASHSPRD_SYMBOL1, State().Symbol1, false);
-  orv::seasonal::DDX_Text(Ctl(), IDC_SZN_CASHSPRD_SYMBOL2, State().Symbol2, false);
+  DDX_Text(IDC_SZN_CASHSPRD_SYMBOL1, &State().Symbol1, false);
+  DDX_Text(IDC_SZN_CASHSPRD_SYMBOL2, &State().Symbol2, false);
   Ctl().SetDlgItemTextA(IDC_SZN_CASHSPRD_HELP, kHelpText);
   return true;
 }
 
 int CSznWzrdPgCashSprd::OnWizardNext() {
-  if (!orv::seasonal::DDX_Text(Ctl(), IDC_SZN_CASHSPRD_SYMBOL1, State().Symbol1, true) ||
-      !orv::seasonal::DDX_Text(Ctl(), IDC_SZN_CASHSPRD_SYMBOL2, State().Symbol2, true)) {
+  if (!DDX_Text(IDC_SZN_CASHSPRD_SYMBOL1, &State().Symbol1, true) ||
+      !DDX_Text(IDC_SZN_CASHSPRD_SYMBOL2, &State().Symbol2, true)) {
     return orv::kWizardStay;
   }
   if (State().Symbol1.empty() || State().Symbol2.empty()) {
