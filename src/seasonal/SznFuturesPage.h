@@ -104,8 +104,13 @@ class CSznFuturesPage : public CWzrdPg<T, Id> {
       return;
     }
     if (years.empty() || years.size() != state.SelYearIndexes.size()) {
-      // The chart years of the Years page, by their distance from the current year.
-      for (int index : state.SelYearIndexes) ctl.ListSetSel(t.years, index + kFuturesYearsAhead, true);
+      // The chart years of the Years page, by their distance from the current year. A kept
+      // index that is no row of this list selects nothing.
+      const int rows = ctl.ListGetCount(t.years);
+      for (int index : state.SelYearIndexes) {
+        const int row = index + kFuturesYearsAhead;
+        if (row >= 0 && row < rows) ctl.ListSetSel(t.years, row, true);
+      }
       return;
     }
     for (int year : years) {

@@ -159,6 +159,9 @@ TEST(SznFuturesPages, TheStartSelectionFollowsThePagesYearsOrTheChartYears) {
       {"as many contract years as chart years: those", &kFut1, {0, 1, 6}, {2030, 2029, 2024}, {"2030", "2029", "2024"}},
       {"a different count: the chart years", &kFut2, {0, 1}, {2030, 2029, 2024}, {"2026", "2025"}},
       {"neither: nothing", &kFut1, {}, {}, {}},
+      // Kept indexes come from the host's document and the history: one that is no row selects
+      // nothing (-11 would name row -1, which is no row either).
+      {"indexes off the list", &kFut1, {-11, -20, 40, 0}, {}, {"2026"}},
       {"a contract year off the list is passed over", &kFut1, {0, 1}, {2040, 2030}, {"2030"}},
       {"single root: its own years", &kSnglRoot, {0, 1}, {2031, 2020, 2000}, {"2031", "2020", "2000"}},
       {"single root: a different count changes nothing", &kSnglRoot, {0, 1, 2}, {2028}, {"2028"}},
