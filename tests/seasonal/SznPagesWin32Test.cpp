@@ -256,4 +256,37 @@ TEST_F(SznPagesWin32, TheSingleRootPageSelectsItsOwnYearsAndFinishes) {
   EXPECT_EQ(s.Labels, (std::vector<std::string>{"@C2027H", "@C2026H"}));
 }
 
+// Back names the Under Construction page when a multiplier doesn't read, but the platform's
+// wizard asks the page whether it may be left (PSN_KILLACTIVE) before it changes page, and the
+// page says no for the same field: the user stays, with the field's beep and focus.
+TEST_F(SznPagesWin32, BackFromMultipliersThatDoNotReadStaysOnThePage) {
+  szn::WizardSeasonState& s = context.state;
+  s.YearEnterMode = 0;
+  s.FormSel = szn::kFormCashSpread;
+  s.SelYearIndexes = {0};
+  s.SelYears = {2026};
+  orv::SheetSetup setup = Wizard({"SznWzrdPgCashSprd", "SznWzrdPgMult", "SznWzrdPgConstr"});
+  setup.startPage = 1;
+  bool onMultipliers = false, onConstruction = false;
+  HWND focus = nullptr, field = nullptr;
+  User user({[&](HWND sheet, HWND page) {
+               field = ::GetDlgItem(page, IDC_SZN_MULT_1);
+               ::SetDlgItemTextA(page, IDC_SZN_MULT_1, "two");
+               ::SetDlgItemTextA(page, IDC_SZN_MULT_2, "3");
+               ::PostMessageA(sheet, PSM_PRESSBUTTON, PSBTN_BACK, 0);
+             },
+             [&](HWND sheet, HWND page) {
+               onMultipliers = ::GetDlgItem(page, IDC_SZN_MULT_1) != nullptr;
+               onConstruction = ::GetDlgItem(page, IDC_SZN_CONSTR_TITLE) != nullptr;
+               focus = ::GetFocus();
+               ::PostMessageA(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);
+             }});
+  orv::CreatePlatformSheetRunner()->Run(setup);
+  EXPECT_FALSE(user.CancelledLeftover());
+  EXPECT_TRUE(onMultipliers);
+  EXPECT_FALSE(onConstruction);
+  EXPECT_EQ(focus, field);
+  EXPECT_EQ(s.Multiplier1, 1.0) << "the page's value, stored";
+}
+
 }  // namespace
