@@ -1,33 +1,20 @@
 #pragma once
-// The seasonal wizard's twelve pages on the headless wizard, in the sheet's order, each with the
-// controls its template declares (SznTemplates.h is generated from the .rc files at build time).
-// The clock stands still and no host service exists, so the current year is the clock's.
+// The seasonal wizard's twelve pages on the headless wizard (SznPageDriver.h), started from the
+// state of a first run.
 
 #include <array>
 #include <memory>
 #include <stdexcept>
 #include <vector>
 
-#include "SznTemplates.h"
-#include "dlgkit/HostServices.h"
+#include "SznPageDriver.h"
 #include "dlgkit/MessageBox.h"
-#include "dlgkit/fake/ControlsFake.h"
-#include "dlgkit/fake/HeadlessRunner.h"
-#include "dlgkit/fake/TemplateLayout.h"
-#include "seasonal/SznPageTable.h"
 
 namespace szntest {
 
 using orv::FakeControls;
 using orv::seasonal::kSznPages;
 using orv::seasonal::WizardSeasonState;
-
-// A host without services: no clock correction, no help.
-class NoHostServices final : public orv::HostServices {
- public:
-  std::unique_ptr<orv::SettingsService> CreateSettingsService() override { return nullptr; }
-  std::unique_ptr<orv::HelpService> CreateHelpService() override { return nullptr; }
-};
 
 // What a first run starts from once the wizard has read its sources: the season of `year`,
 // years from a list, the first form, the default symbols, roots and months.
@@ -46,47 +33,28 @@ inline WizardSeasonState FirstRunState(int year = 2000) {
   return state;
 }
 
+// The pages driver in the words of the page tests: the state set before the start, the controls
+// of a page by its dialog id.
 class WizardRun {
  public:
   // The clock reads 15 June of `currentYear`.
-  explicit WizardRun(WizardSeasonState state = FirstRunState(), int currentYear = 2026)
-      : clock_(orv::DateTime{currentYear, 6, 15, 12, 0, 0}) {
-    context_.state = std::move(state);
-    context_.clock = &clock_;
-    for (std::size_t i = 0; i < kSznPages.size(); ++i) {
-      pages_.push_back(orv::seasonal::MakeSznPage(i, context_));
-      if (const orv::TemplateDialog* dialog = orv::FindTemplate(orv::templates::kDialogs, kSznPages[i].dialogId))
-        orv::AddTemplateControls(*dialog, controls_[i]);
-      runner_.AddPage(pages_.back()->AsPage(), controls_[i]);
-    }
+  explicit WizardRun(WizardSeasonState state = FirstRunState(), int currentYear = 2026) : pages_(currentYear) {
+    pages_.State() = std::move(state);
   }
 
   // Starts the wizard on the page of `dialogId`.
-  void Start(int dialogId) { runner_.Start(IndexOf(dialogId)); }
+  void Start(int dialogId) { pages_.Start(dialogId); }
 
-  orv::HeadlessRunner& Wizard() { return runner_; }
-  WizardSeasonState& State() { return context_.state; }
+  orv::HeadlessRunner& Wizard() { return pages_.Wizard(); }
+  WizardSeasonState& State() { return pages_.State(); }
   // The controls of the page of `dialogId`.
-  FakeControls& Page(int dialogId) { return controls_[IndexOf(dialogId)]; }
+  FakeControls& Page(int dialogId) { return pages_.Controls(dialogId); }
   // The controls of the page on top.
-  FakeControls& Current() { return controls_[static_cast<std::size_t>(runner_.CurrentPage())]; }
-  int CurrentDialog() const { return kSznPages[static_cast<std::size_t>(runner_.CurrentPage())].dialogId; }
-
-  static std::size_t IndexOf(int dialogId) {
-    for (std::size_t i = 0; i < kSznPages.size(); ++i) {
-      if (kSznPages[i].dialogId == dialogId) return i;
-    }
-    throw std::logic_error("no wizard page has this dialog id");
-  }
+  FakeControls& Current() { return pages_.Controls(pages_.Current()); }
+  int CurrentDialog() const { return pages_.Current(); }
 
  private:
-  NoHostServices services_;
-  orv::ScopedHostServices scoped_{services_};
-  orv::FixedClock clock_;
-  orv::seasonal::SznWzrdContext context_;
-  std::vector<std::unique_ptr<orv::seasonal::CPgBase>> pages_;
-  std::array<FakeControls, kSznPages.size()> controls_;
-  orv::HeadlessRunner runner_{orv::HeadlessRunner::Mode::Wizard};
+  SznPages pages_;
 };
 
 }  // namespace szntest
