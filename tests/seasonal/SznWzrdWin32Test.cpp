@@ -14,76 +14,27 @@
 #include <string>
 #include <vector>
 
-#include "../dlgkit/win32/PostedWork.h"
+#include "SznWin32Driver.h"
 #include "SznWizardRun.h"
-#include "WindowCapture.h"
 #include "dlgkit/SettingsStore.h"
-#include "dlgkit/win32/SheetRunnerWin32.h"
 #include "seasonal/SznWzrdPs.h"
 #include "xml/Xml.h"
 
 namespace {
 
+using szntest::Capture;
 using szntest::FirstRunState;
+using szntest::ItemText;
+using szntest::PlayedWizard;
 
 struct NoOwner {
   void FireStatusEvent(std::int32_t, const std::string&, std::int32_t, const std::string&, std::int32_t&) {}
 };
 
-// The platform's wizard, with a test's steps played from inside its modal loop: one step per
-// posted message, so what a step posts (a button press) and what that posts in turn are handled
-// before the next step.
-class PlayedWizard final : public orv::SheetRunner {
- public:
-  using Step = std::function<void(HWND sheet, HWND page)>;
-  explicit PlayedWizard(std::vector<Step> steps) : steps_(std::move(steps)) {}
-
-  std::intptr_t Run(const orv::SheetSetup& setup) override {
-    orv::SheetSetup played = setup;
-    played.onInitialized = [this, setup](orv::WindowHandle window, orv::WindowOps& ops) {
-      if (setup.onInitialized) setup.onInitialized(window, ops);
-      sheet_ = static_cast<HWND>(window);
-      work_.Post([this] { work_.Post([this] { Play(); }); });
-    };
-    return orv::SheetRunnerWin32().Run(played);
-  }
-  std::size_t StepsTaken() const { return next_; }
-  bool Failed() const { return work_.Failed(); }
-
- private:
-  void Play() {
-    HWND page = reinterpret_cast<HWND>(::SendMessageA(sheet_, PSM_GETCURRENTPAGEHWND, 0, 0));
-    if (next_ < steps_.size()) {
-      steps_[next_++](sheet_, page);
-      // Two hops: what the page change posts (the new page's wizard buttons) comes first.
-      work_.Post([this] { work_.Post([this] { Play(); }); });
-    } else {
-      ::PostMessageA(sheet_, PSM_PRESSBUTTON, PSBTN_CANCEL, 0);  // a step too few: don't hang
-    }
-  }
-  std::vector<Step> steps_;
-  std::size_t next_ = 0;
-  HWND sheet_ = nullptr;
-  orv::test::PostedWork work_;
-};
-
-std::string ItemText(HWND page, int id) {
-  char text[512] = {};
-  ::GetDlgItemTextA(page, id, text, sizeof text);
-  return text;
-}
-
 void SelectMonth(HWND page, int comboId, int index) {
   HWND combo = ::GetDlgItem(page, comboId);
   ::SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
   ::SendMessageA(page, WM_COMMAND, MAKEWPARAM(comboId, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
-}
-
-void Capture(HWND sheet, const char* name) {
-  const char* folder = std::getenv("ORV_SZN_SCREENSHOTS");
-  if (!folder) return;
-  const std::string path = std::string(folder) + "\\" + name + ".png";
-  EXPECT_EQ(orv::apps::CaptureWindowToPng(sheet, std::wstring(path.begin(), path.end())), S_OK);
 }
 
 XmlNode WizardNode() {
@@ -105,7 +56,7 @@ class SznWzrdWin32 : public ::testing::Test {
     ::InitCommonControlsEx(&init);
   }
   void TearDown() override { ::CoUninitialize(); }
-  szntest::NoHostServices services;
+  szntest::NoHost services;
   orv::ScopedHostServices scoped{services};
   orv::MemorySettingsStore store;
   orv::FixedClock clock{orv::DateTime{2026, 6, 15, 12, 0, 0}};
