@@ -56,6 +56,11 @@ INT_PTR CALLBACK DialogHost::PropertyPageProc(HWND window, UINT message, WPARAM 
   return Dispatch(window, message, wParam, lParam, attaching);
 }
 
+INT_PTR CALLBACK DialogHost::ChildPageProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  DialogHost* attaching = message == WM_INITDIALOG ? reinterpret_cast<DialogHost*>(lParam) : nullptr;
+  return Dispatch(window, message, wParam, lParam, attaching);
+}
+
 INT_PTR DialogHost::Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam, DialogHost* attaching) {
   if (attaching) {
     attaching->window_ = window;

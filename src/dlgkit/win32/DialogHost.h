@@ -32,6 +32,10 @@ class DialogHost {
   // For PROPSHEETPAGEA::pfnDlgProc: lParam of WM_INITDIALOG is the PROPSHEETPAGEA*, whose lParam
   // is the DialogHost*. The sheet drives the page through PSN_* notifications.
   static INT_PTR CALLBACK PropertyPageProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  // For CreateDialogParam of a page that a host's property frame shows as a child window: lParam
+  // of WM_INITDIALOG is the DialogHost*. The frame drives the page itself (IPropertyPage); the
+  // window has no OK or Cancel of its own and is not activated here.
+  static INT_PTR CALLBACK ChildPageProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
   Page& page() { return page_; }
   HWND window() const { return window_; }
