@@ -2,7 +2,6 @@
 # Included by src/host/CMakeLists.txt; a static library so tests drive the objects directly.
 add_library(orv_host_objects STATIC
   ${CMAKE_CURRENT_LIST_DIR}/ChartPages.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/ComError.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ConnectionPoint.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SheetDispatcher.cpp
   ${CMAKE_CURRENT_LIST_DIR}/TypeLibrary.cpp)
@@ -11,3 +10,13 @@ target_link_libraries(orv_host_objects PUBLIC orv_idl orv_xml orv_dlgkit orv_hos
 if(TARGET orv_linestudies)
   target_link_libraries(orv_host_objects PUBLIC orv_linestudies)
 endif()
+
+# The one IPropertyPage of the chart pages, over the portable frame of src/chartpages, and the
+# COM methods' error reporting (ComError) that every object shares. A library of its own, so that
+# a test program links it with a page of its own and nothing else.
+add_library(orv_host_pageframe STATIC ${CMAKE_CURRENT_LIST_DIR}/PropertyPage.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/ComError.cpp)
+target_include_directories(orv_host_pageframe PUBLIC ${PROJECT_SOURCE_DIR}/src)
+target_link_libraries(orv_host_pageframe PUBLIC orv_idl orv_xml orv_dlgkit orv_chartpages orv_host_module ole32
+  oleaut32 uuid user32)
+target_link_libraries(orv_host_objects PUBLIC orv_host_pageframe)

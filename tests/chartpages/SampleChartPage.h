@@ -10,6 +10,7 @@
 #include "chartpages/ChartPage.h"
 #include "dlgkit/Controls.h"
 #include "xml/Xml.h"
+#include "xml/XmlError.h"
 
 class CSampleChartPage final : public orv::ChartPageBase<CSampleChartPage> {
  public:
@@ -20,6 +21,8 @@ class CSampleChartPage final : public orv::ChartPageBase<CSampleChartPage> {
     bool cleansBeforeExchange = false;
     bool dirtyWhileOpening = false;  // the fill's own change notifications mark the page dirty
     int dialogId = IDD_SAMPLE_CHART_PAGE;
+    orv::Status loadFails = 0;    // non-zero: Load raises XmlComError with it
+    orv::Status changeFails = 0;  // non-zero: a user's change raises XmlComError with it
   };
 
   CSampleChartPage() : CSampleChartPage(Options{}) {}
@@ -37,6 +40,7 @@ class CSampleChartPage final : public orv::ChartPageBase<CSampleChartPage> {
 
   void Load(XmlNode root) override {
     ++loads_;
+    if (options_.loadFails != 0) throw XmlComError(options_.loadFails, "the sample page can't read its root");
     XmlGetChildText(root, "Value", value_);
     XmlGetChildValue(root, "Flag", flag_);
   }
@@ -58,8 +62,10 @@ class CSampleChartPage final : public orv::ChartPageBase<CSampleChartPage> {
       if (options_.dirtyWhileOpening) MarkDirty();
       return;
     }
-    if ((id == IDC_SAMPLE_VALUE && code == orv::kEnChange) || (id == IDC_SAMPLE_FLAG && code == orv::kBnClicked))
+    if ((id == IDC_SAMPLE_VALUE && code == orv::kEnChange) || (id == IDC_SAMPLE_FLAG && code == orv::kBnClicked)) {
+      if (options_.changeFails != 0) throw XmlComError(options_.changeFails, "the sample page failed at a change");
       MarkDirty();
+    }
   }
 
   // The window goes (the frame deactivates the page): the fields keep what was shown.

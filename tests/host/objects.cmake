@@ -17,3 +17,20 @@ add_test(NAME host_script_client
   COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/script_client.sh $<TARGET_FILE:OrvChartDlgs>
     ${CMAKE_CURRENT_LIST_DIR}/chartpages_client.js)
 set_tests_properties(host_script_client PROPERTIES LABELS wine TIMEOUT 120 RUN_SERIAL TRUE)
+
+# The chart pages' IPropertyPage with a sample page of the test's own (its template and title in
+# the program's resources, beside the UI manifest as resource 2), a real window as the frame, a
+# fake chart object and site.
+set(host_pageframe_rc ${CMAKE_CURRENT_BINARY_DIR}/host_pageframe_tests.rc)
+file(WRITE ${host_pageframe_rc}
+  "#include \"${PROJECT_SOURCE_DIR}/tests/chartpages/SampleChartPage.rc\"\n"
+  "2 24 \"${PROJECT_SOURCE_DIR}/src/host/OrvChartDlgs.ui.manifest\"\n")
+set_source_files_properties(${host_pageframe_rc} PROPERTIES
+  INCLUDE_DIRECTORIES "${PROJECT_SOURCE_DIR}/tests/chartpages"
+  OBJECT_DEPENDS "${PROJECT_SOURCE_DIR}/tests/chartpages/SampleChartPage.rc")
+add_executable(host_pageframe_tests ${CMAKE_CURRENT_LIST_DIR}/PropertyPageTests.cpp ${host_pageframe_rc})
+target_include_directories(host_pageframe_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests/chartpages)
+add_dependencies(host_pageframe_tests orv_idl_outputs)
+target_link_libraries(host_pageframe_tests PRIVATE orv_host_pageframe orv_com GTest::gtest_main)
+set_target_properties(host_pageframe_tests PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ORV_RUNTIME_DIR})
+orv_add_test(host_pageframe_tests)
