@@ -7,6 +7,8 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include <algorithm>
+
 namespace orv::host_app {
 namespace {
 
@@ -44,6 +46,37 @@ std::string UsableControl(HWND sheet, int id, HWND& control) {
   if (control == nullptr) return StrFormat("the current page has no control %d", id);
   if (!IsWindowVisible(control)) return StrFormat("control %d is hidden", id);
   if (!IsWindowEnabled(control)) return StrFormat("control %d is disabled", id);
+  return {};
+}
+
+// A row of a list box of several selections clicked as a user clicks it: the left button pressed
+// and released on the middle of the row (scrolled into view first, as a user would), so the list
+// itself toggles the row and notifies its parent as it does on a click. A list of extended
+// selections toggles a row on a click with Ctrl held. The button messages go to the list
+// directly, not through the input queue: there two clicks on one spot in quick succession make
+// a double click, which toggles nothing, and a script's clicks are always single ones.
+std::string ClickListRow(HWND list, int id, int row) {
+  const auto style = static_cast<DWORD>(GetWindowLongPtrW(list, GWL_STYLE));
+  if ((style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) == 0) {
+    return StrFormat("control %d is a list box of one selection: select its rows", id);
+  }
+  const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
+  if (row >= count) return StrFormat("control %d has %ld items, no item %d", id, static_cast<long>(count), row);
+  RECT client{}, item{};
+  GetClientRect(list, &client);
+  SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  if (item.top < client.top || item.bottom > client.bottom) {
+    SendMessageW(list, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
+    SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  }
+  POINT at{(item.left + std::min(item.right, client.right)) / 2, (item.top + item.bottom) / 2};
+  POINT onScreen = at;
+  ClientToScreen(list, &onScreen);
+  if (WindowFromPoint(onScreen) != list) return StrFormat("row %d of control %d is covered by another window", row, id);
+  const WPARAM keys = (style & LBS_EXTENDEDSEL) != 0 ? MK_CONTROL : 0;
+  const LPARAM point = MAKELPARAM(at.x, at.y);
+  SendMessageW(list, WM_LBUTTONDOWN, keys | MK_LBUTTON, point);
+  SendMessageW(list, WM_LBUTTONUP, keys, point);
   return {};
 }
 
@@ -191,6 +224,9 @@ std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet) {
       const bool combo = _stricmp(kind.c_str(), "ComboBox") == 0;
       const bool list = _stricmp(kind.c_str(), "ListBox") == 0;
       if (!combo && !list) return StrFormat("control %d is a %s, not a combo or list box", step.id, kind.c_str());
+      if (list && (GetWindowLongPtrW(control, GWL_STYLE) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0) {
+        return StrFormat("control %d is a list box of several selections: toggle its rows", step.id);
+      }
       const LRESULT count = SendMessageW(control, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
       if (step.index >= count)
         return StrFormat("control %d has %ld items, no item %d", step.id, static_cast<long>(count), step.index);
@@ -198,6 +234,12 @@ std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet) {
       SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(step.id, combo ? CBN_SELCHANGE : LBN_SELCHANGE),
                    reinterpret_cast<LPARAM>(control));
       return {};
+    }
+    case ScriptOp::Toggle: {
+      if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
+      if (_stricmp(ClassOf(control).c_str(), "ListBox") != 0)
+        return StrFormat("control %d is a %s, not a list box", step.id, ClassOf(control).c_str());
+      return ClickListRow(control, step.id, step.index);
     }
     case ScriptOp::Spin: {
       if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;

@@ -11,3 +11,6 @@ target_link_libraries(orv_host_objects PUBLIC orv_idl orv_xml orv_dlgkit orv_hos
 if(TARGET orv_linestudies)
   target_link_libraries(orv_host_objects PUBLIC orv_linestudies)
 endif()
+if(TARGET orv_seasonal)
+  target_link_libraries(orv_host_objects PUBLIC orv_seasonal)
+endif()
