@@ -130,7 +130,7 @@ constexpr Verb kVerbs[] = {
     {"tab", ScriptOp::Tab},       {"apply", ScriptOp::Apply},   {"ok", ScriptOp::Ok},
     {"cancel", ScriptOp::Cancel}, {"next", ScriptOp::Next},     {"back", ScriptOp::Back},
     {"finish", ScriptOp::Finish}, {"wait", ScriptOp::Wait},     {"screenshot", ScriptOp::Screenshot},
-    {"spin", ScriptOp::Spin},     {"toggle", ScriptOp::Toggle},
+    {"spin", ScriptOp::Spin},     {"toggle", ScriptOp::Toggle}, {"expect", ScriptOp::Expect},
 };
 
 // Parses one command; an empty result means good.
@@ -143,14 +143,15 @@ std::string ParseCommand(const std::string& command, ScriptStep& step) {
   }
   if (found == nullptr) {
     return StrFormat(
-        "unknown command \"%.*s\" (known: text click select toggle tab spin apply ok cancel "
-        "next back finish wait screenshot)",
+        "unknown command \"%.*s\" (known: text click select toggle expect tab spin apply ok "
+        "cancel next back finish wait screenshot)",
         static_cast<int>(verb.size()), verb.data());
   }
   step.op = found->op;
   const char* name = found->name;
   switch (step.op) {
-    case ScriptOp::Text: {
+    case ScriptOp::Text:
+    case ScriptOp::Expect: {
       if (!ParseInt(NextWord(rest), 1, 65535, step.id)) return StrFormat("%s needs a control id from 1 to 65535", name);
       std::string why;
       if (!ParseValue(rest, step.text, why)) return why;

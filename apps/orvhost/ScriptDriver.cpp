@@ -80,6 +80,80 @@ std::string ClickListRow(HWND list, int id, int row) {
   return {};
 }
 
+std::string WindowText(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+  return Narrow(text, CP_UTF8);
+}
+
+std::string ItemText(HWND control, bool combo, WPARAM index) {
+  const LRESULT length = SendMessageW(control, combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, index, 0);
+  if (length < 0) return {};
+  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+  const LRESULT got =
+      SendMessageW(control, combo ? CB_GETLBTEXT : LB_GETTEXT, index, reinterpret_cast<LPARAM>(text.data()));
+  text.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+  return Narrow(text, CP_UTF8);
+}
+
+// What a control shows, as a user reads it: a combo box its selected item; a list box its
+// selected rows, joined by ", "; a check box or radio button "checked", "unchecked" or
+// "indeterminate"; any other control its text.
+std::string ShownText(HWND control) {
+  const std::string kind = ClassOf(control);
+  const auto style = static_cast<DWORD>(GetWindowLongPtrW(control, GWL_STYLE));
+  if (_stricmp(kind.c_str(), "ComboBox") == 0) {
+    const LRESULT selected = SendMessageW(control, CB_GETCURSEL, 0, 0);
+    return selected < 0 ? std::string() : ItemText(control, true, static_cast<WPARAM>(selected));
+  }
+  if (_stricmp(kind.c_str(), "ListBox") == 0) {
+    std::string shown;
+    if ((style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) == 0) {
+      const LRESULT selected = SendMessageW(control, LB_GETCURSEL, 0, 0);
+      return selected < 0 ? shown : ItemText(control, false, static_cast<WPARAM>(selected));
+    }
+    const LRESULT count = SendMessageW(control, LB_GETCOUNT, 0, 0);
+    for (LRESULT row = 0; row < count; ++row) {
+      if (SendMessageW(control, LB_GETSEL, static_cast<WPARAM>(row), 0) <= 0) continue;
+      if (!shown.empty()) shown += ", ";
+      shown += ItemText(control, false, static_cast<WPARAM>(row));
+    }
+    return shown;
+  }
+  if (_stricmp(kind.c_str(), "Button") == 0) {
+    switch (style & BS_TYPEMASK) {
+      case BS_CHECKBOX:
+      case BS_AUTOCHECKBOX:
+      case BS_3STATE:
+      case BS_AUTO3STATE:
+      case BS_RADIOBUTTON:
+      case BS_AUTORADIOBUTTON: {
+        const LRESULT state = SendMessageW(control, BM_GETCHECK, 0, 0);
+        return state == BST_CHECKED ? "checked" : state == BST_INDETERMINATE ? "indeterminate" : "unchecked";
+      }
+      default:
+        break;
+    }
+  }
+  return WindowText(control);
+}
+
+// A text as the script's messages quote it: line breaks and tabs as \r \n \t.
+std::string Quoted(const std::string& text) {
+  std::string quoted = "\"";
+  for (const char c : text) {
+    if (c == '\r')
+      quoted += "\\r";
+    else if (c == '\n')
+      quoted += "\\n";
+    else if (c == '\t')
+      quoted += "\\t";
+    else
+      quoted += c;
+  }
+  return quoted + "\"";
+}
+
 }  // namespace
 
 HWND FindThreadSheet() {
@@ -240,6 +314,18 @@ std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet) {
       if (_stricmp(ClassOf(control).c_str(), "ListBox") != 0)
         return StrFormat("control %d is a %s, not a list box", step.id, ClassOf(control).c_str());
       return ClickListRow(control, step.id, step.index);
+    }
+    case ScriptOp::Expect: {
+      // A user reads what is shown, enabled or not.
+      const auto page = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+      control = page != nullptr ? GetDlgItem(page, step.id) : nullptr;
+      if (control == nullptr) return StrFormat("the current page has no control %d", step.id);
+      if (!IsWindowVisible(control)) return StrFormat("control %d is hidden", step.id);
+      const std::string shown = ShownText(control);
+      if (shown != step.text) {
+        return StrFormat("control %d shows %s, not %s", step.id, Quoted(shown).c_str(), Quoted(step.text).c_str());
+      }
+      return {};
     }
     case ScriptOp::Spin: {
       if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;

@@ -119,6 +119,10 @@ TEST_F(ScriptDriverTest, ACommandAUserCouldNotDoCancelsTheSheetAndSaysWhy) {
       {"toggle 202 0", "control 202 is a ComboBox, not a list box"},
       {"toggle 208 0", "control 208 is a list box of one selection: select its rows"},
       {"toggle 206 20", "control 206 has 20 items, no item 20"},
+      {"text 200 \"a b\"; expect 200 a", "command 2 (\"expect 200 a\"): control 200 shows \"a b\", not \"a\""},
+      {"expect 204 Hidden", "control 204 is hidden"},
+      {"select 202 2; expect 202 High", "control 202 shows \"Low\", not \"High\""},
+      {"expect 201 checked", "control 201 shows \"unchecked\", not \"checked\""},
       {"tab 1; click 201", "the current page has no control 201"},
       {"ok; click 201", "the sheet closed before command 2 (\"click 201\")"},
       {"screenshot Z:\\no\\such\\folder\\x.png", "cannot write"},
@@ -153,6 +157,24 @@ TEST_F(ScriptDriverTest, ToggleClicksARowOfAListOfSeveralSelections) {
     EXPECT_EQ(o.error, "") << c.script;
     EXPECT_EQ(o.result, 1) << c.script;
     EXPECT_EQ(g_notified[c.list], c.rows) << c.script;
+  }
+}
+
+// expect reads a control as a user does, disabled ones too; the script goes on when it matches.
+TEST_F(ScriptDriverTest, ExpectPassesWhenTheControlShowsTheText) {
+  const char* const scripts[] = {
+      "text 200 \"a; b\"; expect 200 \"a; b\"",
+      "expect 202 \"\"; select 202 1; expect 202 High",
+      "click 201; expect 201 checked; click 201; expect 201 unchecked",
+      "expect 206 \"\"; toggle 206 1; toggle 206 4; expect 206 \"2001, 2004\"",
+      "toggle 207 3; expect 207 2003",
+      "select 208 5; expect 208 2005",
+      "expect 205 Disabled",
+  };
+  for (const char* script : scripts) {
+    const Outcome o = RunSheet(std::string(script) + "; ok");
+    EXPECT_EQ(o.error, "") << script;
+    EXPECT_EQ(o.result, 1) << script;
   }
 }
 
