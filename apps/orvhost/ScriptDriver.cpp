@@ -265,6 +265,12 @@ void ScriptDriver::Tick() {
          FindThreadSheet());
     return;
   }
+  // The command opened a window that had to be closed for it (a message box nobody answered): the
+  // script fails there, also when it was the last command, and the sheet is cancelled.
+  if (!error_.empty()) {
+    Fail(error_, FindThreadSheet());
+    return;
+  }
   ++next_;
   if (step.op == ScriptOp::Wait) notBefore_ = GetTickCount() + static_cast<DWORD>(step.milliseconds);
   if (next_ == steps_.size()) KillTimerNow();

@@ -47,6 +47,7 @@ INT_PTR CALLBACK PageProc(HWND page, UINT message, WPARAM wParam, LPARAM lParam)
       if (HIWORD(wParam) == LBN_SELCHANGE) {
         g_notified[LOWORD(wParam)] = SelectedRows(reinterpret_cast<HWND>(lParam));
       }
+      if (LOWORD(wParam) == 209 && HIWORD(wParam) == BN_CLICKED) MessageBoxW(page, L"Box", L"Refused", MB_OK);
       return FALSE;
     case WM_NOTIFY: {
       if (reinterpret_cast<const NMHDR*>(lParam)->code == PSN_APPLY) g_applied = true;
@@ -125,6 +126,9 @@ TEST_F(ScriptDriverTest, ACommandAUserCouldNotDoCancelsTheSheetAndSaysWhy) {
       {"expect 201 checked", "control 201 shows \"unchecked\", not \"checked\""},
       {"tab 1; click 201", "the current page has no control 201"},
       {"ok; click 201", "the sheet closed before command 2 (\"click 201\")"},
+      // A box left open is answered for the user; the script fails there, also as its last command.
+      {"click 209; click 201", "command 1 (\"click 209\") left a window open (\"Refused\")"},
+      {"click 201; click 209", "command 2 (\"click 209\") left a window open (\"Refused\")"},
       {"screenshot Z:\\no\\such\\folder\\x.png", "cannot write"},
   };
   for (const Case& c : cases) {
