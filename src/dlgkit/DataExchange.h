@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <utility>
 
 #include "dlgkit/Controls.h"
 #include "dlgkit/FloatParse.h"
@@ -38,6 +39,8 @@ class CWinDataExchangeZel {
   static constexpr std::size_t kFloatBuffer = 32;
   // Precision beyond 17 digits adds nothing to a double and could overflow the 32 characters.
   static constexpr int kMaxFloatPrecision = 17;
+  // The first read of a text field; a longer text is read again with more room.
+  static constexpr std::size_t kTextBuffer = 256;
 
   void DDX_Check(int id, bool* value, bool save) {
     if (save) {
@@ -107,6 +110,30 @@ class CWinDataExchangeZel {
       const int index = ctl.ComboFindItemData(comboId, *value);
       ctl.ComboSetCurSel(comboId, index < 0 ? 0 : index);
     }
+    return true;
+  }
+
+  // Member <-> the whole text of a control, however long. A control that isn't there fails
+  // (beep and focus) and leaves *value as it was.
+  bool DDX_Text(int id, std::string* value, bool save) {
+    orv::Controls& ctl = ExchangeControls();
+    if (!save) {
+      if (ctl.SetDlgItemTextA(id, *value)) return true;
+      Derived().OnDataExchangeError(id, save);
+      return false;
+    }
+    if (!ctl.HasDlgItem(id)) {
+      Derived().OnDataExchangeError(id, save);
+      return false;
+    }
+    // A text that fills the buffer may go on: read again with twice the room until it doesn't.
+    std::size_t buffer = kTextBuffer;
+    std::string text = ctl.GetDlgItemTextA(id, buffer);
+    while (text.size() + 1 >= buffer) {
+      buffer *= 2;
+      text = ctl.GetDlgItemTextA(id, buffer);
+    }
+    *value = std::move(text);
     return true;
   }
 

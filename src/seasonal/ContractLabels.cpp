@@ -47,28 +47,25 @@ void BuildContractLabels(WizardSeasonState& state) {
       break;
     case kFormSingleRootFutures:
       for (std::size_t i = 0; i < n; ++i)
-        state.Labels.push_back(
-            orv::StrFormat("%s%04d%s", state.Root1.c_str(), YearAt(state.Years1, i), code1.c_str()));
+        state.Labels.push_back(orv::StrFormat("%s%04d%s", state.Root1.c_str(), YearAt(state.Years1, i), code1.c_str()));
       break;
     case kFormCashSpread:
       for (std::size_t i = 0; i < n; ++i)
-        state.Labels.push_back(orv::StrFormat("%s%s - %s%s", mult1.c_str(), state.Symbol1.c_str(), mult2.c_str(),
-                                              state.Symbol2.c_str()));
+        state.Labels.push_back(
+            orv::StrFormat("%s%s - %s%s", mult1.c_str(), state.Symbol1.c_str(), mult2.c_str(), state.Symbol2.c_str()));
       break;
     case kFormFuturesSpread:
       for (std::size_t i = 0; i < n; ++i) {
         const int year1 = YearAt(state.Years1, i);
         const int year2 = YearAt(state.Years2, i);
         state.Labels.push_back(orv::StrFormat("%s%s%04d%s - %s%s%04d%s", mult1.c_str(), state.Root1.c_str(), year1,
-                                              code1.c_str(), mult2.c_str(), state.Root2.c_str(), year2,
-                                              code2.c_str()));
+                                              code1.c_str(), mult2.c_str(), state.Root2.c_str(), year2, code2.c_str()));
       }
       break;
     case kFormCashFuturesSpread:
       for (std::size_t i = 0; i < n; ++i)
-        state.Labels.push_back(orv::StrFormat("%s%s - %s%s%04d%s", mult1.c_str(), state.Symbol1.c_str(),
-                                              mult2.c_str(), state.Root2.c_str(), YearAt(state.Years2, i),
-                                              code2.c_str()));
+        state.Labels.push_back(orv::StrFormat("%s%s - %s%s%04d%s", mult1.c_str(), state.Symbol1.c_str(), mult2.c_str(),
+                                              state.Root2.c_str(), YearAt(state.Years2, i), code2.c_str()));
       break;
     default:
       break;

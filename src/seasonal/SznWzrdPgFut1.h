@@ -1,9 +1,10 @@
 #pragma once
 // CSznWzrdPgFut1: the wizard page of the first set of futures contracts: root, month, years.
 
-#include "seasonal/SznWzrdPg.h"
+#include "seasonal/SznFuturesPage.h"
 
-class CSznWzrdPgFut1 final : public orv::seasonal::CWzrdPg<CSznWzrdPgFut1, IDD_SZN_FUT1> {
+class CSznWzrdPgFut1 final : public orv::seasonal::CSznFuturesPage<CSznWzrdPgFut1, IDD_SZN_FUT1> {
  public:
-  using CWzrdPg::CWzrdPg;
+  using CSznFuturesPage::CSznFuturesPage;
+  static const orv::seasonal::SznFuturesTraits kFutures;
 };

@@ -1,9 +1,10 @@
 #pragma once
-// CSznWzrdPgSnglRootFut: the wizard page of the futures of one root: root, month, years.
+// CSznWzrdPgSnglRootFut: the wizard page of the futures of one root: root, month, years. Finish builds the labels.
 
-#include "seasonal/SznWzrdPg.h"
+#include "seasonal/SznFuturesPage.h"
 
-class CSznWzrdPgSnglRootFut final : public orv::seasonal::CWzrdPg<CSznWzrdPgSnglRootFut, IDD_SZN_SNGLROOTFUT> {
+class CSznWzrdPgSnglRootFut final : public orv::seasonal::CSznFuturesPage<CSznWzrdPgSnglRootFut, IDD_SZN_SNGLROOTFUT> {
  public:
-  using CWzrdPg::CWzrdPg;
+  using CSznFuturesPage::CSznFuturesPage;
+  static const orv::seasonal::SznFuturesTraits kFutures;
 };

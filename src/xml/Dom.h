@@ -32,6 +32,10 @@ Node AppendText(const NodeImpl& parent, std::string_view text);
 // cloneNode(deep) + appendChild to `destination`; the source may be in another document.
 Node AppendClone(const NodeImpl& destination, const NodeImpl& node, bool deep);
 
+// removeChild: `child` leaves `parent` with everything below it; handles into it stay valid and
+// see it without parent or siblings. A `child` that isn't one of `parent` raises.
+void RemoveChild(const NodeImpl& parent, const NodeImpl& child);
+
 std::string NodeXml(const NodeImpl& node);  // the xml property
 
 Node CreateDocument();  // null when the parser cannot be created

@@ -2,9 +2,11 @@
 
 #include "xml/Xml.h"
 
+#include <cstdlib>
 #include <vector>
 
 #include "xml/Dom.h"
+#include "xml/StrFormat.h"
 #include "xml/XmlGuard.h"
 
 namespace dom = orv::dom;
@@ -153,6 +155,21 @@ XmlNode XmlGetChildValue(XmlNode parent, const char* name, std::uint32_t& value)
   return GetChildValueImpl(std::move(parent), name, value);
 }
 
+XmlNode XmlGetNodeValue(XmlNode node, std::int32_t& value) {
+  std::string text;
+  XmlNode read = XmlGetNodeText(std::move(node), text);
+  std::int32_t parsed = 0;
+  if (read && XmlParseValue(text, parsed)) value = parsed;
+  return read;
+}
+
+XmlNode XmlGetAttrDouble(XmlNode node, const char* name, double& value) {
+  std::string text;
+  XmlNode attr = XmlGetAttr(std::move(node), name, text);
+  if (attr) value = std::atof(text.c_str());
+  return attr;
+}
+
 std::string XmlGetXml(XmlNode node) { return dom::NodeXml(Need(node)); }
 
 orv::Status XmlSetAttr(XmlNode node, const char* name, std::string_view value) {
@@ -167,6 +184,11 @@ XmlNode XmlSetAttrValue(XmlNode node, const char* name, std::int32_t value, XmlV
 }
 XmlNode XmlSetAttrValue(XmlNode node, const char* name, std::uint32_t value, XmlValueKind kind) {
   XmlCheck(XmlSetAttr(std::move(node), name, XmlFormatValue(value, kind)), "XmlSetAttrValue");
+  return XmlNode();
+}
+
+XmlNode XmlSetAttrDouble(XmlNode node, const char* name, double value) {
+  XmlCheck(XmlSetAttr(std::move(node), name, orv::StrFormat("%f", value)), "XmlSetAttrDouble");
   return XmlNode();
 }
 
@@ -191,6 +213,14 @@ XmlNode XmlAddValueChild(XmlNode parent, const char* name, std::uint32_t value, 
 XmlNode XmlAppendClone(XmlNode destination, XmlNode node, bool deep) {
   if (!destination || !node) return XmlNode();
   return Wrap(dom::AppendClone(*destination.impl(), *node.impl(), deep));
+}
+
+XmlNode XmlRemoveNode(XmlNode node) {
+  const dom::NodeImpl& child = Need(node);
+  dom::Node parent = dom::ParentNode(child);
+  if (!parent) return XmlNode();
+  dom::RemoveChild(*parent, child);
+  return node;
 }
 
 XmlNode XmlCreateDocument() { return Wrap(dom::CreateDocument()); }

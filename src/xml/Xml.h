@@ -65,6 +65,12 @@ XmlNode XmlGetNodeText(XmlNode node, std::string& value);
 XmlNode XmlGetChildText(XmlNode parent, const char* name, std::string& value);
 XmlNode XmlGetChildValue(XmlNode parent, const char* name, std::int32_t& value);
 XmlNode XmlGetChildValue(XmlNode parent, const char* name, std::uint32_t& value);
+// The node's text (as XmlGetNodeText) read by XmlParseValue; the integer is assigned only when
+// that succeeds. Returns the node.
+XmlNode XmlGetNodeValue(XmlNode node, std::int32_t& value);
+// The attribute's text read by atof (so text that is no number gives 0.0); assigned only when the
+// attribute exists.
+XmlNode XmlGetAttrDouble(XmlNode node, const char* name, double& value);
 // The markup of the node and everything below it; a null node raises orv::kStatusPointer.
 std::string XmlGetXml(XmlNode node);
 
@@ -74,6 +80,8 @@ orv::Status XmlSetAttr(XmlNode node, const char* name, std::string_view value);
 // Always returns a null handle.
 XmlNode XmlSetAttrValue(XmlNode node, const char* name, std::int32_t value, XmlValueKind kind = XmlValueKind::Decimal);
 XmlNode XmlSetAttrValue(XmlNode node, const char* name, std::uint32_t value, XmlValueKind kind = XmlValueKind::Decimal);
+// "%f" of the value, then XmlSetAttr. Always returns a null handle.
+XmlNode XmlSetAttrDouble(XmlNode node, const char* name, double value);
 // The writers below return null for a null parent; a new element is always appended.
 XmlNode XmlAddChild(XmlNode parent, const char* name);
 XmlNode XmlAddTextChild(XmlNode parent, const char* name, std::string_view text);
@@ -84,6 +92,11 @@ XmlNode XmlAddValueChild(XmlNode parent, const char* name, std::uint32_t value,
 // Appends a copy of `node` (with its descendants when `deep`) to `destination`, which may be in
 // another document; returns the appended copy, null when either argument is null.
 XmlNode XmlAppendClone(XmlNode destination, XmlNode node, bool deep);
+
+// Removes `node` (with everything below it) from its parent and returns it; null when it has no
+// parent. A null handle raises orv::kStatusPointer. Handles into the removed part stay valid: it
+// stands on its own, without parent and siblings, as long as they use it.
+XmlNode XmlRemoveNode(XmlNode node);
 
 // Document. XmlCreateDocument gives null when the platform's parser cannot be created.
 XmlNode XmlCreateDocument();

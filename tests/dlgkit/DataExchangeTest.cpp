@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <limits>
+#include <string>
+#include <vector>
 
 #include "dlgkit/DataExchange.h"
 #include "dlgkit/FloatParse.h"
@@ -164,6 +166,34 @@ TEST(DdxInt, MissingControlIsAFailedWrite) {
   int value = 3;
   EXPECT_FALSE(d.DDX_Int(4242, &value, true, false));
   EXPECT_EQ(d.controls.Beeps().size(), 1u);
+}
+
+// Texts of any length go both ways whole; a control that isn't there is a failure.
+TEST(DdxText, MovesTheWholeTextBothWays) {
+  for (std::size_t length : {0u, 1u, 254u, 255u, 256u, 511u, 512u, 5000u}) {
+    SCOPED_TRACE(length);
+    Dialog d;
+    std::string value(length, 'x');
+    if (length > 0) value.back() = 'y';
+    EXPECT_TRUE(d.DDX_Text(kEdit, &value, false));
+    EXPECT_EQ(d.controls.Control(kEdit).text, value);
+    std::string back = "before";
+    EXPECT_TRUE(d.DDX_Text(kEdit, &back, true));
+    EXPECT_EQ(back, value);
+    d.ExpectNoRefusal();
+  }
+}
+
+TEST(DdxText, MissingControlFailsBothWaysAndKeepsTheMember) {
+  for (bool save : {false, true}) {
+    SCOPED_TRACE(save);
+    Dialog d;
+    std::string value = "kept";
+    EXPECT_FALSE(d.DDX_Text(4242, &value, save));
+    EXPECT_EQ(value, "kept");
+    EXPECT_EQ(d.controls.Beeps(), std::vector<unsigned>{0xFFFFFFFFu});
+    EXPECT_TRUE(d.controls.MessageBoxes().empty());
+  }
 }
 
 TEST(DdxFloat, WritesWithPrecisionAndReadsBack) {

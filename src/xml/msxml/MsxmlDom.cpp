@@ -207,6 +207,11 @@ bool LoadXml(const NodeImpl& document, std::string_view text) {
   return loaded == VARIANT_TRUE;
 }
 
+void RemoveChild(const NodeImpl& parent, const NodeImpl& child) {
+  ComPtr<IXMLDOMNode> removed;
+  Check(parent.node->removeChild(child.node.get(), removed.put()), "IXMLDOMNode::removeChild");
+}
+
 void ClearDocument(const NodeImpl& document) {
   for (ComPtr<IXMLDOMNode> child; SUCCEEDED(document.node->get_firstChild(child.put())) && child;) {
     ComPtr<IXMLDOMNode> removed;

@@ -54,6 +54,17 @@ Node MakeAttribute(const std::shared_ptr<pugi::xml_document>& tree, pugi::xml_at
   return impl;
 }
 
+// The hidden holder of removed nodes; its name is no XML name, so no load or writer makes one.
+constexpr char kRemovedHolder[] = "#removed";
+
+bool IsHolder(pugi::xml_node node) {
+  return node.type() == pugi::node_element && node.parent().type() == pugi::node_document &&
+         std::string_view(node.name()) == kRemovedHolder;
+}
+
+// `node`, or the first sibling after it, that isn't the holder.
+pugi::xml_node Visible(pugi::xml_node node) { return IsHolder(node) ? node.next_sibling() : node; }
+
 [[noreturn]] void Fail(const char* context, Status status = kStatusFail) { throw XmlComError(status, context); }
 
 // True when `node` is a node that may hold children; attributes cannot here.
@@ -68,7 +79,7 @@ void CheckTopLevelInsert(pugi::xml_node parent, pugi::xml_node_type type, const 
   if (type == pugi::node_pcdata || type == pugi::node_cdata) Fail(context);
   if (type == pugi::node_element) {
     for (pugi::xml_node child : parent.children())
-      if (child.type() == pugi::node_element) Fail(context);
+      if (child.type() == pugi::node_element && !IsHolder(child)) Fail(context);
   }
 }
 
@@ -220,13 +231,14 @@ Node FirstChild(const NodeImpl& impl) {
     case NodeImpl::Kind::AttributeText:
       return nullptr;
     default:
-      return MakeNode(impl.Tree(), impl.Top().first_child());
+      return MakeNode(impl.Tree(), Visible(impl.Top().first_child()));
   }
 }
 
 Node NextSibling(const NodeImpl& impl) {
   if (impl.kind != NodeImpl::Kind::Node) return nullptr;  // attributes are no children
-  return MakeNode(impl.Tree(), impl.node.next_sibling());
+  if (IsHolder(impl.node.parent())) return nullptr;       // removed: no siblings
+  return MakeNode(impl.Tree(), Visible(impl.node.next_sibling()));
 }
 
 Node ParentNode(const NodeImpl& impl) {
@@ -241,7 +253,7 @@ Node ParentNode(const NodeImpl& impl) {
       break;
   }
   pugi::xml_node parent = impl.node.parent();
-  if (!parent) return nullptr;
+  if (!parent || IsHolder(parent)) return nullptr;
   if (parent.type() != pugi::node_document) return MakeNode(impl.Tree(), parent);
   // The top of a tree: its document. A tree that a later load replaced stands on its own, as
   // MSXML leaves the nodes of a former content; its document handle is a new one over that tree.
@@ -297,6 +309,21 @@ Node AppendClone(const NodeImpl& destination, const NodeImpl& source, bool deep)
   return MakeNode(destination.Tree(), copy);
 }
 
+void RemoveChild(const NodeImpl& parent, const NodeImpl& child) {
+  pugi::xml_node container = ContainerOf(parent, "removeChild");
+  if (child.kind != NodeImpl::Kind::Node || child.Tree() != parent.Tree() || child.node.parent() != container)
+    Fail("removeChild: not a child of the node", kStatusInvalidArg);
+  pugi::xml_document& tree = *parent.Tree();
+  pugi::xml_node holder;
+  for (pugi::xml_node top : tree.children())
+    if (IsHolder(top)) holder = top;
+  if (!holder) {
+    holder = tree.append_child(pugi::node_element);
+    if (!holder || !holder.set_name(kRemovedHolder)) Fail("removeChild", kStatusOutOfMemory);
+  }
+  if (!holder.append_move(child.node)) Fail("removeChild", kStatusOutOfMemory);
+}
+
 std::string NodeXml(const NodeImpl& impl) {
   if (impl.kind == NodeImpl::Kind::AttributeText) return impl.attribute.value();
   if (impl.kind == NodeImpl::Kind::Attribute) {
@@ -314,6 +341,7 @@ std::string NodeXml(const NodeImpl& impl) {
   if (impl.kind == NodeImpl::Kind::Document) {
     // MSXML ends every top-level node of a document with CR LF.
     for (pugi::xml_node top : impl.owner->current->children()) {
+      if (IsHolder(top)) continue;
       top.print(writer, "", kPrintFlags);
       writer.text += "\r\n";
     }

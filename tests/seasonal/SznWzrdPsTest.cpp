@@ -1,0 +1,423 @@
+// The seasonal wizard as a host meets it: a request with the twelve pages, a user who walks each
+// contract form from the first page to Finish, and the document that comes back, compared whole;
+// where Back leads from every page; Cancel; and a second run that starts from the first one's
+// history.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "SznSheetRun.h"
+#include "dlgkit/Page.h"
+
+namespace {
+
+using orv::HeadlessSheetRunner;
+using orv::MemorySettingsStore;
+using WizardRun = szntest::SheetRun;
+
+// The twelve pages in the order of the page table.
+constexpr const char* kPageNames[] = {"SznWzrdPgSeason",      "SznWzrdPgYears",       "SznWzrdPgYrCount",
+                                      "SznWzrdPgForm",        "SznWzrdPgFut1",        "SznWzrdPgFut2",
+                                      "SznWzrdPgCashSprd",    "SznWzrdPgSnglRootFut", "SznWzrdPgSnglInst",
+                                      "SznWzrdPgSnglInstMid", "SznWzrdPgMult",        "SznWzrdPgConstr"};
+
+std::string PageList() {
+  std::string list = "<PropertyPageList>";
+  for (const char* name : kPageNames) list += std::string("<PropertyPage Name=\"") + name + "\"/>";
+  return list + "</PropertyPageList>";
+}
+
+// The host's request; a year mode below 0 leaves YearEnterMode out.
+std::string Request(int yearEnterMode, const std::string& context = "") {
+  std::string sheet = "<PropertySheet Name=\"SznWzrdPs\">";
+  if (yearEnterMode >= 0) sheet += "<YearEnterMode>" + std::to_string(yearEnterMode) + "</YearEnterMode>";
+  return "<Chart>" + sheet + PageList() + context + "</PropertySheet></Chart>";
+}
+
+// What comes back after Finish: the request's PropertySheet, then the contract list and the
+// rewritten Context.
+std::string Finished(int yearEnterMode, const std::string& contracts, const std::string& context) {
+  std::string sheet = "<PropertySheet Name=\"SznWzrdPs\">";
+  if (yearEnterMode >= 0) sheet += "<YearEnterMode>" + std::to_string(yearEnterMode) + "</YearEnterMode>";
+  return sheet + PageList() + contracts + context + "</PropertySheet>";
+}
+
+// The season of a first run in 2026: January to December.
+constexpr const char* kWholeYear = "<MonthDayWindow Start=\"46023\" End=\"46387\"/>";
+
+void Press(WizardRun& run, bool (orv::HeadlessRunner::*button)(), int expectedDialogId) {
+  (run.runner.Sheet().*button)();
+  ASSERT_EQ(run.CurrentDialogId(), expectedDialogId);
+}
+
+// Season, Years (the first run's picks: 2026, 2025, 2024), then the form's radio and Next.
+void ToForm(WizardRun& run, int radio, int landing) {
+  Press(run, &orv::HeadlessRunner::PressNext, IDD_SZN_YEARS);
+  Press(run, &orv::HeadlessRunner::PressNext, IDD_SZN_FORM);
+  run.Current().Click(radio);
+  Press(run, &orv::HeadlessRunner::PressNext, landing);
+}
+
+struct FormWalk {
+  const char* name;
+  std::function<void(WizardRun&)> script;
+  std::string expected;
+};
+
+std::vector<FormWalk> FormWalks() {
+  using R = orv::HeadlessRunner;
+  return {
+      {"single instrument",
+       [](WizardRun& run) {
+         ToForm(run, IDC_SZN_FORM_SNGLINST, IDD_SZN_SNGLINST);
+         run.Current().TypeText(IDC_SZN_SNGLINST_SYMBOL, "CORN");
+         EXPECT_TRUE(run.runner.Sheet().PressFinish());
+       },
+       Finished(-1,
+                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
+                "<ContractList><Contract Symbol=\"CORN\" Year=\"2026\"/><Contract Symbol=\"CORN\" Year=\"2025\"/>"
+                "<Contract Symbol=\"CORN\" Year=\"2024\"/></ContractList>",
+                std::string("<Context><FormSel>0</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
+                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
+                    "<SymbolList><Symbol>CORN</Symbol><Symbol>INDU.X</Symbol></SymbolList>"
+                    "<FutureList><Future Root=\"@C\" Month=\"0\" Multiplier=\"1.000000\"/>"
+                    "<Future Root=\"@S\" Month=\"0\" Multiplier=\"1.000000\"/></FutureList>"
+                    "<YearListList><YearList/><YearList/></YearListList></Context>")},
+      {"single root futures",
+       [](WizardRun& run) {
+         ToForm(run, IDC_SZN_FORM_SNGLROOTFUT, IDD_SZN_SNGLROOTFUT);
+         orv::FakeControls& page = run.Current();
+         page.TypeText(IDC_SZN_SNGLROOT_ROOT, "QNG");
+         page.SelectComboItem(IDC_SZN_SNGLROOT_MONTH, 2);
+         // Rows start ten years ahead: row 9 is 2027.
+         for (int row : {9, 10, 11}) page.ToggleListItem(IDC_SZN_SNGLROOT_YEARS, row);
+         EXPECT_TRUE(run.runner.Sheet().PressFinish());
+       },
+       Finished(-1,
+                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
+                "<ContractList><Contract Symbol=\"QNG2027H\" Year=\"2026\"/>"
+                "<Contract Symbol=\"QNG2026H\" Year=\"2025\"/><Contract Symbol=\"QNG2025H\" Year=\"2024\"/>"
+                "</ContractList>",
+                std::string("<Context><FormSel>1</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
+                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
+                    "<SymbolList><Symbol>MSFT</Symbol><Symbol>INDU.X</Symbol></SymbolList>"
+                    "<FutureList><Future Root=\"QNG\" Month=\"2\" Multiplier=\"1.000000\"/>"
+                    "<Future Root=\"@S\" Month=\"0\" Multiplier=\"1.000000\"/></FutureList>"
+                    "<YearListList><YearList><Year>2027</Year><Year>2026</Year><Year>2025</Year></YearList>"
+                    "<YearList/></YearListList></Context>")},
+      {"cash spread",
+       [](WizardRun& run) {
+         ToForm(run, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD);
+         run.Current().TypeText(IDC_SZN_CASHSPRD_SYMBOL1, "HO");
+         run.Current().TypeText(IDC_SZN_CASHSPRD_SYMBOL2, "CL");
+         Press(run, &R::PressNext, IDD_SZN_MULT);
+         run.Current().TypeText(IDC_SZN_MULT_1, "2.5");
+         EXPECT_TRUE(run.runner.Sheet().PressFinish());
+       },
+       Finished(-1,
+                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
+                "<ContractList><Contract Symbol=\"2.50 * HO - CL\" Year=\"2026\"/>"
+                "<Contract Symbol=\"2.50 * HO - CL\" Year=\"2025\"/>"
+                "<Contract Symbol=\"2.50 * HO - CL\" Year=\"2024\"/></ContractList>",
+                std::string("<Context><FormSel>2</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
+                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
+                    "<SymbolList><Symbol>HO</Symbol><Symbol>CL</Symbol></SymbolList>"
+                    "<FutureList><Future Root=\"@C\" Month=\"0\" Multiplier=\"2.500000\"/>"
+                    "<Future Root=\"@S\" Month=\"0\" Multiplier=\"1.000000\"/></FutureList>"
+                    "<YearListList><YearList/><YearList/></YearListList></Context>")},
+      {"futures spread",
+       [](WizardRun& run) {
+         ToForm(run, IDC_SZN_FORM_FUTSPRD, IDD_SZN_FUT1);
+         // The chart years (rows 10 to 12) come selected; the month is December.
+         run.Current().SelectComboItem(IDC_SZN_FUT1_MONTH, 11);
+         Press(run, &R::PressNext, IDD_SZN_FUT2);
+         orv::FakeControls& second = run.Current();
+         second.TypeText(IDC_SZN_FUT2_ROOT, "QHO");
+         for (int row : {10, 13}) second.ToggleListItem(IDC_SZN_FUT2_YEARS, row);  // 2026 out, 2023 in
+         Press(run, &R::PressNext, IDD_SZN_MULT);
+         EXPECT_TRUE(run.runner.Sheet().PressFinish());
+       },
+       Finished(-1,
+                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
+                "<ContractList><Contract Symbol=\"@C2026Z - QHO2025F\" Year=\"2026\"/>"
+                "<Contract Symbol=\"@C2025Z - QHO2024F\" Year=\"2025\"/>"
+                "<Contract Symbol=\"@C2024Z - QHO2023F\" Year=\"2024\"/></ContractList>",
+                std::string("<Context><FormSel>3</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
+                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
+                    "<SymbolList><Symbol>MSFT</Symbol><Symbol>INDU.X</Symbol></SymbolList>"
+                    "<FutureList><Future Root=\"@C\" Month=\"11\" Multiplier=\"1.000000\"/>"
+                    "<Future Root=\"QHO\" Month=\"0\" Multiplier=\"1.000000\"/></FutureList>"
+                    "<YearListList><YearList><Year>2026</Year><Year>2025</Year><Year>2024</Year></YearList>"
+                    "<YearList><Year>2025</Year><Year>2024</Year><Year>2023</Year></YearList></YearListList>"
+                    "</Context>")},
+      {"cash futures spread",
+       [](WizardRun& run) {
+         ToForm(run, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID);
+         run.Current().TypeText(IDC_SZN_SNGLINSTMID_SYMBOL, "PCACG00");
+         Press(run, &R::PressNext, IDD_SZN_FUT2);
+         run.Current().TypeText(IDC_SZN_FUT2_ROOT, "QCL");
+         run.Current().SelectComboItem(IDC_SZN_FUT2_MONTH, 11);
+         Press(run, &R::PressNext, IDD_SZN_MULT);
+         run.Current().TypeText(IDC_SZN_MULT_2, "-1");
+         EXPECT_TRUE(run.runner.Sheet().PressFinish());
+       },
+       Finished(-1,
+                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
+                "<ContractList><Contract Symbol=\"PCACG00 - -1.00 * QCL2026Z\" Year=\"2026\"/>"
+                "<Contract Symbol=\"PCACG00 - -1.00 * QCL2025Z\" Year=\"2025\"/>"
+                "<Contract Symbol=\"PCACG00 - -1.00 * QCL2024Z\" Year=\"2024\"/></ContractList>",
+                std::string("<Context><FormSel>4</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
+                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
+                    "<SymbolList><Symbol>PCACG00</Symbol><Symbol>INDU.X</Symbol></SymbolList>"
+                    "<FutureList><Future Root=\"@C\" Month=\"0\" Multiplier=\"1.000000\"/>"
+                    "<Future Root=\"QCL\" Month=\"11\" Multiplier=\"-1.000000\"/></FutureList>"
+                    "<YearListList><YearList/><YearList><Year>2026</Year><Year>2025</Year><Year>2024</Year>"
+                    "</YearList></YearListList></Context>")},
+  };
+}
+
+TEST(SznWizard, EachFormWalkedToFinishGivesTheHostItsWholeDocumentOnce) {
+  for (const FormWalk& walk : FormWalks()) {
+    MemorySettingsStore store;
+    WizardRun run(store);
+    const std::string request = Request(-1);
+    XmlNode host = szntest::SheetNode(request);
+    run.runner.SetScript([&](HeadlessSheetRunner&) { walk.script(run); });
+    EXPECT_EQ(run.wizard.Run(host, run.runner), 1) << walk.name;
+    EXPECT_EQ(run.Events(), std::vector<std::string>{walk.expected}) << walk.name;
+    EXPECT_EQ(orv::Compact(XmlGetXml(host)), orv::Compact(XmlGetXml(szntest::SheetNode(request))))
+        << walk.name << ": the host's document is read, never changed";
+    EXPECT_FALSE(store.keys().empty()) << walk.name << ": a finished run keeps its history";
+  }
+}
+
+TEST(SznWizard, CountOfYearsTakesTheShortPathToOneSymbol) {
+  struct Row {
+    int yearEnterMode;
+    std::string contracts;  // what the host gets besides the Context
+  };
+  const Row rows[] = {
+      // One contract of a year nobody picked, and YearsBack to go by.
+      {1,
+       "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>3</YearsBack>"
+       "<ContractList><Contract Symbol=\"CORN\" Year=\"-1\"/></ContractList>"},
+      // No contract list at all: only YearsBack.
+      {2, "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>3</YearsBack>"},
+  };
+  for (const Row& row : rows) {
+    MemorySettingsStore store;
+    WizardRun run(store);
+    const auto result = run.Run(Request(row.yearEnterMode), [&](HeadlessSheetRunner&) {
+      Press(run, &orv::HeadlessRunner::PressNext, IDD_SZN_YRCOUNT);
+      EXPECT_EQ(run.Current().Control(IDC_SZN_YRCOUNT_COUNT).text, "5");
+      run.Current().TypeText(IDC_SZN_YRCOUNT_COUNT, "3");
+      Press(run, &orv::HeadlessRunner::PressNext, IDD_SZN_SNGLINST);
+      run.Current().TypeText(IDC_SZN_SNGLINST_SYMBOL, "CORN");
+      EXPECT_TRUE(run.runner.Sheet().PressFinish());
+    });
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(run.Events(), std::vector<std::string>{Finished(
+                                row.yearEnterMode, row.contracts,
+                                std::string("<Context><FormSel>0</FormSel><YearsBack>3</YearsBack>") + kWholeYear +
+                                    "<SelYearList/><SymbolList><Symbol>CORN</Symbol><Symbol>INDU.X</Symbol>"
+                                    "</SymbolList><FutureList><Future Root=\"@C\" Month=\"0\" "
+                                    "Multiplier=\"1.000000\"/><Future Root=\"@S\" Month=\"0\" "
+                                    "Multiplier=\"1.000000\"/></FutureList><YearListList><YearList/><YearList/>"
+                                    "</YearListList></Context>")})
+        << "mode " << row.yearEnterMode;
+  }
+}
+
+TEST(SznWizard, BackFromEveryPageLandsWhereTheFlowSays) {
+  using R = orv::HeadlessRunner;
+  struct Row {
+    const char* name;
+    std::function<void(WizardRun&)> reach;  // from the first page to the page under test
+    int back;
+  };
+  const Row rows[] = {
+      {"years", [](WizardRun& r) { Press(r, &R::PressNext, IDD_SZN_YEARS); }, IDD_SZN_SEASON},
+      {"form",
+       [](WizardRun& r) {
+         Press(r, &R::PressNext, IDD_SZN_YEARS);
+         Press(r, &R::PressNext, IDD_SZN_FORM);
+       },
+       IDD_SZN_YEARS},
+      {"symbol", [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_SNGLINST, IDD_SZN_SNGLINST); }, IDD_SZN_FORM},
+      {"single root futures", [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_SNGLROOTFUT, IDD_SZN_SNGLROOTFUT); },
+       IDD_SZN_FORM},
+      {"symbols", [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD); }, IDD_SZN_FORM},
+      {"first futures", [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_FUTSPRD, IDD_SZN_FUT1); }, IDD_SZN_FORM},
+      {"second futures of a futures spread",
+       [](WizardRun& r) {
+         ToForm(r, IDC_SZN_FORM_FUTSPRD, IDD_SZN_FUT1);
+         Press(r, &R::PressNext, IDD_SZN_FUT2);
+       },
+       IDD_SZN_FUT1},
+      {"symbol of a cash futures spread",
+       [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID); }, IDD_SZN_FORM},
+      {"second futures of a cash futures spread",
+       [](WizardRun& r) {
+         ToForm(r, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID);
+         Press(r, &R::PressNext, IDD_SZN_FUT2);
+       },
+       IDD_SZN_SNGLINSTMID},
+      {"multipliers of a cash spread",
+       [](WizardRun& r) {
+         ToForm(r, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD);
+         Press(r, &R::PressNext, IDD_SZN_MULT);
+       },
+       IDD_SZN_CASHSPRD},
+      {"multipliers of a futures spread skip the second futures",
+       [](WizardRun& r) {
+         ToForm(r, IDC_SZN_FORM_FUTSPRD, IDD_SZN_FUT1);
+         Press(r, &R::PressNext, IDD_SZN_FUT2);
+         Press(r, &R::PressNext, IDD_SZN_MULT);
+       },
+       IDD_SZN_FUT1},
+      {"multipliers of a cash futures spread land under construction",
+       [](WizardRun& r) {
+         ToForm(r, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID);
+         Press(r, &R::PressNext, IDD_SZN_FUT2);
+         Press(r, &R::PressNext, IDD_SZN_MULT);
+       },
+       IDD_SZN_CONSTR},
+      // Back answers Under Construction, but the page then refuses to be left, as the platform
+      // asks it (kill-active) before it changes page.
+      {"multipliers that don't read keep the user there",
+       [](WizardRun& r) {
+         ToForm(r, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD);
+         Press(r, &R::PressNext, IDD_SZN_MULT);
+         r.Current().TypeText(IDC_SZN_MULT_1, "two");
+       },
+       IDD_SZN_MULT},
+      // Under Construction goes to its neighbour in the request's order: Multipliers.
+      {"under construction",
+       [](WizardRun& r) {
+         ToForm(r, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID);
+         Press(r, &R::PressNext, IDD_SZN_FUT2);
+         Press(r, &R::PressNext, IDD_SZN_MULT);
+         Press(r, &R::PressBack, IDD_SZN_CONSTR);
+       },
+       IDD_SZN_MULT},
+  };
+  for (const Row& row : rows) {
+    MemorySettingsStore store;
+    WizardRun run(store);
+    run.Run(Request(-1), [&](HeadlessSheetRunner&) {
+      row.reach(run);
+      run.runner.Sheet().PressBack();
+      EXPECT_EQ(run.CurrentDialogId(), row.back) << row.name;
+    });
+    EXPECT_TRUE(run.owner.events.empty()) << row.name;
+  }
+  // The count page and the symbol after it, on the short path.
+  MemorySettingsStore store;
+  WizardRun run(store);
+  run.Run(Request(1), [&](HeadlessSheetRunner&) {
+    Press(run, &R::PressNext, IDD_SZN_YRCOUNT);
+    Press(run, &R::PressNext, IDD_SZN_SNGLINST);
+    Press(run, &R::PressBack, IDD_SZN_YRCOUNT);
+    Press(run, &R::PressBack, IDD_SZN_SEASON);
+  });
+}
+
+TEST(SznWizard, ReturningByBackKeepsWhatTheUserLeftOnAPage) {
+  MemorySettingsStore store;
+  WizardRun run(store);
+  run.Run(Request(-1), [&](HeadlessSheetRunner&) {
+    ToForm(run, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD);
+    run.Current().TypeText(IDC_SZN_CASHSPRD_SYMBOL1, "HO");
+    Press(run, &orv::HeadlessRunner::PressBack, IDD_SZN_FORM);
+    Press(run, &orv::HeadlessRunner::PressNext, IDD_SZN_CASHSPRD);
+    EXPECT_EQ(run.Current().Control(IDC_SZN_CASHSPRD_SYMBOL1).text, "HO");
+  });
+}
+
+TEST(SznWizard, CancelOnAnyPageLeavesTheDocumentAndTheStoreAsTheyWere) {
+  using R = orv::HeadlessRunner;
+  const std::function<void(WizardRun&)> reach[] = {
+      [](WizardRun&) {},
+      [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_SNGLINST, IDD_SZN_SNGLINST); },
+      [](WizardRun& r) {
+        ToForm(r, IDC_SZN_FORM_FUTSPRD, IDD_SZN_FUT1);
+        Press(r, &R::PressNext, IDD_SZN_FUT2);
+        Press(r, &R::PressNext, IDD_SZN_MULT);
+      },
+  };
+  for (const auto& path : reach) {
+    MemorySettingsStore store;
+    store.WriteString("Software\\ZEL\\Chart", "Snl3WizSymbol_1", "HO?CL");
+    const std::string before = orv::FileSettingsStore::Serialize(store);
+    WizardRun run(store);
+    const std::string request = Request(-1, "<Context><FormSel>3</FormSel></Context>");
+    XmlNode host = szntest::SheetNode(request);
+    run.runner.SetScript([&](HeadlessSheetRunner&) {
+      path(run);
+      EXPECT_TRUE(run.runner.Sheet().PressCancel());
+    });
+    EXPECT_EQ(run.wizard.Run(host, run.runner), 0);
+    EXPECT_TRUE(run.owner.events.empty());
+    EXPECT_EQ(orv::FileSettingsStore::Serialize(store), before);
+    EXPECT_EQ(XmlGetXml(host), XmlGetXml(szntest::SheetNode(request)));
+  }
+}
+
+TEST(SznWizard, ASecondRunStartsFromTheFirstRunsHistory) {
+  MemorySettingsStore store;
+  {
+    WizardRun first(store);
+    first.Run(Request(-1), [&](HeadlessSheetRunner&) {
+      first.Current().SelectComboItem(IDC_SZN_SEASON_START, 10);  // Nov
+      first.Current().SelectComboItem(IDC_SZN_SEASON_END, 1);     // Feb
+      Press(first, &orv::HeadlessRunner::PressNext, IDD_SZN_YEARS);
+      first.Current().ToggleListItem(IDC_SZN_YEARS_LIST, 0);  // 2025 and 2024 remain
+      Press(first, &orv::HeadlessRunner::PressNext, IDD_SZN_FORM);
+      first.Current().Click(IDC_SZN_FORM_CASHSPRD);
+      Press(first, &orv::HeadlessRunner::PressNext, IDD_SZN_CASHSPRD);
+      first.Current().TypeText(IDC_SZN_CASHSPRD_SYMBOL1, "HO");
+      Press(first, &orv::HeadlessRunner::PressNext, IDD_SZN_MULT);
+      EXPECT_TRUE(first.runner.Sheet().PressFinish());
+    });
+    ASSERT_EQ(first.owner.events.size(), 1u);
+  }
+  WizardRun second(store);
+  second.Run(Request(-1), [&](HeadlessSheetRunner&) {
+    orv::FakeControls& season = second.Current();
+    EXPECT_EQ(season.Control(IDC_SZN_SEASON_START).curSel, 10);
+    EXPECT_EQ(season.Control(IDC_SZN_SEASON_END).curSel, 1);
+    EXPECT_EQ(season.Control(IDC_SZN_SEASON_PREVIEW).text, "Nov/01/2026 - Feb/28/2027");
+    Press(second, &orv::HeadlessRunner::PressNext, IDD_SZN_YEARS);
+    EXPECT_EQ(second.Current().ListGetSelItems(IDC_SZN_YEARS_LIST), (std::vector<int>{1, 2}));
+    EXPECT_EQ(second.Current().Control(IDC_SZN_YEARS_COUNT).text, "Total: 2");
+    Press(second, &orv::HeadlessRunner::PressNext, IDD_SZN_FORM);
+    EXPECT_EQ(second.Current().IsDlgButtonChecked(IDC_SZN_FORM_CASHSPRD), orv::kBstChecked);
+    Press(second, &orv::HeadlessRunner::PressNext, IDD_SZN_CASHSPRD);
+    EXPECT_EQ(second.Current().Control(IDC_SZN_CASHSPRD_SYMBOL1).text, "HO");
+    EXPECT_EQ(second.Current().Control(IDC_SZN_CASHSPRD_SYMBOL2).text, "INDU.X");
+    EXPECT_TRUE(second.runner.Sheet().PressCancel());
+  });
+}
+
+TEST(SznWizard, TheRequestsContextComesBeforeTheHistory) {
+  MemorySettingsStore store;
+  store.WriteString("Software\\ZEL\\Chart", "Snl3WizSymbol_1", "HO?CL");
+  WizardRun run(store);
+  run.Run(Request(-1, "<Context><FormSel>5</FormSel><SymbolList><Symbol>ZW</Symbol></SymbolList></Context>"),
+          [&](HeadlessSheetRunner&) {
+            Press(run, &orv::HeadlessRunner::PressNext, IDD_SZN_YEARS);
+            Press(run, &orv::HeadlessRunner::PressNext, IDD_SZN_FORM);
+            // A form past the five checks no radio, and Next lands under construction.
+            for (int radio = IDC_SZN_FORM_SNGLINST; radio <= IDC_SZN_FORM_CASHFUTSPRD; ++radio)
+              EXPECT_EQ(run.Current().IsDlgButtonChecked(radio), orv::kBstUnchecked);
+            Press(run, &orv::HeadlessRunner::PressNext, IDD_SZN_CONSTR);
+            Press(run, &orv::HeadlessRunner::PressBack, IDD_SZN_MULT);
+          });
+  EXPECT_EQ(run.wizard.State().Symbol1, "ZW");
+  EXPECT_EQ(run.wizard.State().Symbol2, "INDU.X") << "the history fills only an empty first symbol";
+}
+
+}  // namespace
