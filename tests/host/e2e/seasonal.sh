@@ -188,6 +188,11 @@ case_ "Cash Futures Spread, Back from Multipliers: Under Construction, contracts
 cancelled_case "Cancel on the First Futures page: nothing sent, nothing kept" seasonal-years.xml \
   "next; next; click 4485; next; text 4523 QXX; cancel"
 
+# Back from Multipliers in a Futures Spread skips Second Futures: First Futures, as the user left it.
+cancelled_case "Futures Spread, Back from Multipliers: First Futures as it was left; Cancel there" seasonal-years.xml \
+  "next; next; click 4485; next; text 4523 QXY; next; next; back
+   expect 4520 \"Select first set of futures contracts\"; expect 4523 QXY; cancel"
+
 # Years given as a count, with the host's Context: Season, Year Count, Symbol. One contract
 # without a year; the Context's season keeps its start year, and the end month carries it too.
 # Nothing here depends on the current year.
