@@ -126,11 +126,11 @@ struct Verb {
   ScriptOp op;
 };
 constexpr Verb kVerbs[] = {
-    {"text", ScriptOp::Text},     {"click", ScriptOp::Click}, {"select", ScriptOp::Select},
-    {"tab", ScriptOp::Tab},       {"apply", ScriptOp::Apply}, {"ok", ScriptOp::Ok},
-    {"cancel", ScriptOp::Cancel}, {"next", ScriptOp::Next},   {"back", ScriptOp::Back},
-    {"finish", ScriptOp::Finish}, {"wait", ScriptOp::Wait},   {"screenshot", ScriptOp::Screenshot},
-    {"spin", ScriptOp::Spin},
+    {"text", ScriptOp::Text},     {"click", ScriptOp::Click},   {"select", ScriptOp::Select},
+    {"tab", ScriptOp::Tab},       {"apply", ScriptOp::Apply},   {"ok", ScriptOp::Ok},
+    {"cancel", ScriptOp::Cancel}, {"next", ScriptOp::Next},     {"back", ScriptOp::Back},
+    {"finish", ScriptOp::Finish}, {"wait", ScriptOp::Wait},     {"screenshot", ScriptOp::Screenshot},
+    {"spin", ScriptOp::Spin},     {"toggle", ScriptOp::Toggle}, {"expect", ScriptOp::Expect},
 };
 
 // Parses one command; an empty result means good.
@@ -143,14 +143,15 @@ std::string ParseCommand(const std::string& command, ScriptStep& step) {
   }
   if (found == nullptr) {
     return StrFormat(
-        "unknown command \"%.*s\" (known: text click select tab spin apply ok cancel next "
-        "back finish wait screenshot)",
+        "unknown command \"%.*s\" (known: text click select toggle expect tab spin apply ok "
+        "cancel next back finish wait screenshot)",
         static_cast<int>(verb.size()), verb.data());
   }
   step.op = found->op;
   const char* name = found->name;
   switch (step.op) {
-    case ScriptOp::Text: {
+    case ScriptOp::Text:
+    case ScriptOp::Expect: {
       if (!ParseInt(NextWord(rest), 1, 65535, step.id)) return StrFormat("%s needs a control id from 1 to 65535", name);
       std::string why;
       if (!ParseValue(rest, step.text, why)) return why;
@@ -160,6 +161,7 @@ std::string ParseCommand(const std::string& command, ScriptStep& step) {
       if (!ParseInt(NextWord(rest), 1, 65535, step.id)) return StrFormat("%s needs a control id from 1 to 65535", name);
       break;
     case ScriptOp::Select:
+    case ScriptOp::Toggle:
       if (!ParseInt(NextWord(rest), 1, 65535, step.id)) return StrFormat("%s needs a control id from 1 to 65535", name);
       if (!ParseInt(NextWord(rest), 0, 1000000, step.index))
         return StrFormat("%s needs an item index of 0 or more", name);

@@ -13,6 +13,8 @@ enum class ScriptOp {
   Text,    // text <id> <value>: the control's text, then EN_CHANGE to its parent
   Click,   // click <id>: BM_CLICK
   Select,  // select <id> <index>: CB_SETCURSEL or LB_SETCURSEL, then the SELCHANGE command
+  Toggle,  // toggle <id> <index>: a mouse click on a row of a list box of several selections
+  Expect,  // expect <id> <text>: the control shows this text, else the script fails
   Tab,     // tab <index>: PSM_SETCURSEL
   Spin,    // spin <id> <delta>: the up-down's UDN_DELTAPOS to its parent, as a click on an arrow
   Apply,   // apply, ok, cancel, next, back, finish: PSM_PRESSBUTTON
@@ -27,10 +29,10 @@ enum class ScriptOp {
 
 struct ScriptStep {
   ScriptOp op = ScriptOp::Wait;
-  int id = 0;            // control id (text, click, select)
-  int index = 0;         // item or tab index (select, tab), steps (spin)
+  int id = 0;            // control id (text, click, select, toggle, spin, expect)
+  int index = 0;         // item or tab index (select, toggle, tab), steps (spin)
   int milliseconds = 0;  // wait
-  std::string text;      // value (text) or file name (screenshot), UTF-8
+  std::string text;      // value (text, expect) or file name (screenshot), UTF-8
   std::string source;    // the command as written, for messages
 };
 

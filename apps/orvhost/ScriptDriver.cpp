@@ -7,6 +7,8 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include <algorithm>
+
 namespace orv::host_app {
 namespace {
 
@@ -45,6 +47,111 @@ std::string UsableControl(HWND sheet, int id, HWND& control) {
   if (!IsWindowVisible(control)) return StrFormat("control %d is hidden", id);
   if (!IsWindowEnabled(control)) return StrFormat("control %d is disabled", id);
   return {};
+}
+
+// A row of a list box of several selections clicked as a user clicks it: the left button pressed
+// and released on the middle of the row (scrolled into view first, as a user would), so the list
+// itself toggles the row and notifies its parent as it does on a click. A list of extended
+// selections toggles a row on a click with Ctrl held. The button messages go to the list
+// directly, not through the input queue: there two clicks on one spot in quick succession make
+// a double click, which toggles nothing, and a script's clicks are always single ones.
+std::string ClickListRow(HWND list, int id, int row) {
+  const auto style = static_cast<DWORD>(GetWindowLongPtrW(list, GWL_STYLE));
+  if ((style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) == 0) {
+    return StrFormat("control %d is a list box of one selection: select its rows", id);
+  }
+  const LRESULT count = SendMessageW(list, LB_GETCOUNT, 0, 0);
+  if (row >= count) return StrFormat("control %d has %ld items, no item %d", id, static_cast<long>(count), row);
+  RECT client{}, item{};
+  GetClientRect(list, &client);
+  SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  if (item.top < client.top || item.bottom > client.bottom) {
+    SendMessageW(list, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
+    SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  }
+  POINT at{(item.left + std::min(item.right, client.right)) / 2, (item.top + item.bottom) / 2};
+  POINT onScreen = at;
+  ClientToScreen(list, &onScreen);
+  if (WindowFromPoint(onScreen) != list) return StrFormat("row %d of control %d is covered by another window", row, id);
+  const WPARAM keys = (style & LBS_EXTENDEDSEL) != 0 ? MK_CONTROL : 0;
+  const LPARAM point = MAKELPARAM(at.x, at.y);
+  SendMessageW(list, WM_LBUTTONDOWN, keys | MK_LBUTTON, point);
+  SendMessageW(list, WM_LBUTTONUP, keys, point);
+  return {};
+}
+
+std::string WindowText(HWND window) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+  return Narrow(text, CP_UTF8);
+}
+
+std::string ItemText(HWND control, bool combo, WPARAM index) {
+  const LRESULT length = SendMessageW(control, combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, index, 0);
+  if (length < 0) return {};
+  std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+  const LRESULT got =
+      SendMessageW(control, combo ? CB_GETLBTEXT : LB_GETTEXT, index, reinterpret_cast<LPARAM>(text.data()));
+  text.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+  return Narrow(text, CP_UTF8);
+}
+
+// What a control shows, as a user reads it: a combo box its selected item; a list box its
+// selected rows, joined by ", "; a check box or radio button "checked", "unchecked" or
+// "indeterminate"; any other control its text.
+std::string ShownText(HWND control) {
+  const std::string kind = ClassOf(control);
+  const auto style = static_cast<DWORD>(GetWindowLongPtrW(control, GWL_STYLE));
+  if (_stricmp(kind.c_str(), "ComboBox") == 0) {
+    const LRESULT selected = SendMessageW(control, CB_GETCURSEL, 0, 0);
+    return selected < 0 ? std::string() : ItemText(control, true, static_cast<WPARAM>(selected));
+  }
+  if (_stricmp(kind.c_str(), "ListBox") == 0) {
+    std::string shown;
+    if ((style & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) == 0) {
+      const LRESULT selected = SendMessageW(control, LB_GETCURSEL, 0, 0);
+      return selected < 0 ? shown : ItemText(control, false, static_cast<WPARAM>(selected));
+    }
+    const LRESULT count = SendMessageW(control, LB_GETCOUNT, 0, 0);
+    for (LRESULT row = 0; row < count; ++row) {
+      if (SendMessageW(control, LB_GETSEL, static_cast<WPARAM>(row), 0) <= 0) continue;
+      if (!shown.empty()) shown += ", ";
+      shown += ItemText(control, false, static_cast<WPARAM>(row));
+    }
+    return shown;
+  }
+  if (_stricmp(kind.c_str(), "Button") == 0) {
+    switch (style & BS_TYPEMASK) {
+      case BS_CHECKBOX:
+      case BS_AUTOCHECKBOX:
+      case BS_3STATE:
+      case BS_AUTO3STATE:
+      case BS_RADIOBUTTON:
+      case BS_AUTORADIOBUTTON: {
+        const LRESULT state = SendMessageW(control, BM_GETCHECK, 0, 0);
+        return state == BST_CHECKED ? "checked" : state == BST_INDETERMINATE ? "indeterminate" : "unchecked";
+      }
+      default:
+        break;
+    }
+  }
+  return WindowText(control);
+}
+
+// A text as the script's messages quote it: line breaks and tabs as \r \n \t.
+std::string Quoted(const std::string& text) {
+  std::string quoted = "\"";
+  for (const char c : text) {
+    if (c == '\r')
+      quoted += "\\r";
+    else if (c == '\n')
+      quoted += "\\n";
+    else if (c == '\t')
+      quoted += "\\t";
+    else
+      quoted += c;
+  }
+  return quoted + "\"";
 }
 
 }  // namespace
@@ -158,6 +265,12 @@ void ScriptDriver::Tick() {
          FindThreadSheet());
     return;
   }
+  // The command opened a window that had to be closed for it (a message box nobody answered): the
+  // script fails there, also when it was the last command, and the sheet is cancelled.
+  if (!error_.empty()) {
+    Fail(error_, FindThreadSheet());
+    return;
+  }
   ++next_;
   if (step.op == ScriptOp::Wait) notBefore_ = GetTickCount() + static_cast<DWORD>(step.milliseconds);
   if (next_ == steps_.size()) KillTimerNow();
@@ -191,12 +304,33 @@ std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet) {
       const bool combo = _stricmp(kind.c_str(), "ComboBox") == 0;
       const bool list = _stricmp(kind.c_str(), "ListBox") == 0;
       if (!combo && !list) return StrFormat("control %d is a %s, not a combo or list box", step.id, kind.c_str());
+      if (list && (GetWindowLongPtrW(control, GWL_STYLE) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0) {
+        return StrFormat("control %d is a list box of several selections: toggle its rows", step.id);
+      }
       const LRESULT count = SendMessageW(control, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
       if (step.index >= count)
         return StrFormat("control %d has %ld items, no item %d", step.id, static_cast<long>(count), step.index);
       SendMessageW(control, combo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(step.index), 0);
       SendMessageW(GetParent(control), WM_COMMAND, MAKEWPARAM(step.id, combo ? CBN_SELCHANGE : LBN_SELCHANGE),
                    reinterpret_cast<LPARAM>(control));
+      return {};
+    }
+    case ScriptOp::Toggle: {
+      if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
+      if (_stricmp(ClassOf(control).c_str(), "ListBox") != 0)
+        return StrFormat("control %d is a %s, not a list box", step.id, ClassOf(control).c_str());
+      return ClickListRow(control, step.id, step.index);
+    }
+    case ScriptOp::Expect: {
+      // A user reads what is shown, enabled or not.
+      const auto page = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+      control = page != nullptr ? GetDlgItem(page, step.id) : nullptr;
+      if (control == nullptr) return StrFormat("the current page has no control %d", step.id);
+      if (!IsWindowVisible(control)) return StrFormat("control %d is hidden", step.id);
+      const std::string shown = ShownText(control);
+      if (shown != step.text) {
+        return StrFormat("control %d shows %s, not %s", step.id, Quoted(shown).c_str(), Quoted(step.text).c_str());
+      }
       return {};
     }
     case ScriptOp::Spin: {

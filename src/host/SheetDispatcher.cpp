@@ -4,11 +4,13 @@
 #include <memory>
 #include <string>
 
+#include "dlgkit/SettingsStore.h"
 #include "dlgkit/SheetRunner.h"
 #include "dlgkit/win32/ChartDataWin32.h"
 #include "host/ActivationContext.h"
 #include "host/ChartPages.h"
 #include "linestudies/LsPs.h"
+#include "seasonal/SznWzrdPs.h"
 
 namespace orv::host {
 namespace {
@@ -57,19 +59,20 @@ long SheetDispatcher::Run(CChartPages* owner, XmlNode doc, IUnknown* chartData, 
       result = static_cast<long>(lineStudies.DoModal(parent));
       break;
     }
-    case SheetKind::CustomLines:
     case SheetKind::SeasonalWizard: {
-      // Until their pages exist these sheets run empty, with the buttons and the outcome
-      // (and, for the wizard, the event after Finish) they will have.
+      // The wizard keeps its history in the current user's registry; it fires its one event
+      // from inside Run, after Finish.
+      const std::unique_ptr<orv::SettingsStore> store = orv::CreateUserSettingsStore();
+      CSznWzrdPs<CChartPages> wizard(owner, *store);
+      result = static_cast<long>(wizard.Run(sheet, *orv::CreatePlatformSheetRunner(), parent));
+      break;
+    }
+    case SheetKind::CustomLines: {
+      // Until its pages exist this sheet runs empty, with the buttons and the outcome it will have.
       orv::SheetSetup setup;
-      setup.wizard = kind == SheetKind::SeasonalWizard;
       setup.parent = parent;
       XmlGetAttr(sheet, "Title", setup.title);
       result = static_cast<long>(orv::CreatePlatformSheetRunner()->Run(setup));
-      if (setup.wizard && result == 1 && owner != nullptr) {
-        std::int32_t answer = 0;  // what the host answers changes nothing
-        owner->FireStatusEvent(0, XmlGetXml(sheet), 0, std::string(), answer);
-      }
       break;
     }
     case SheetKind::None:

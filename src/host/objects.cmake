@@ -10,6 +10,9 @@ target_link_libraries(orv_host_objects PUBLIC orv_idl orv_xml orv_dlgkit orv_hos
 if(TARGET orv_linestudies)
   target_link_libraries(orv_host_objects PUBLIC orv_linestudies)
 endif()
+if(TARGET orv_seasonal)
+  target_link_libraries(orv_host_objects PUBLIC orv_seasonal)
+endif()
 
 # The one IPropertyPage of the chart pages, over the portable frame of src/chartpages, and the
 # COM methods' error reporting (ComError) that every object shares. A library of its own, so that

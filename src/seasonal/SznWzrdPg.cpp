@@ -21,8 +21,9 @@ long long ClockCorrection(HostServices& services) {
     if (result != 0 || value.empty()) return 0;
     char* end = nullptr;
     const long long seconds = std::strtoll(value.c_str(), &end, 10);
-    // Ten years either way at most: a correction beyond that is not a clock's.
-    if (end == value.c_str() || seconds < -315576000LL || seconds > 315576000LL) return 0;
+    // Not a number: no correction. Beyond a thousand years either way the calendar's arithmetic
+    // would overflow; such a correction is taken as none as well.
+    if (end == value.c_str() || seconds < -31557600000LL || seconds > 31557600000LL) return 0;
     return seconds;
   } catch (const XmlComError&) {
     return 0;

@@ -2,6 +2,8 @@
 // and to its three destinations (the contract list, the history, a rewritten Context).
 #include "seasonal/WizardSeasonState.h"
 
+#include <algorithm>
+#include <climits>
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
@@ -25,6 +27,13 @@ const std::string& PieceAt(const std::vector<std::string>& pieces, std::size_t i
   return index < pieces.size() ? pieces[index] : kNone;
 }
 
+// atoi of registry text, without its undefined overflow: a number past the int range stops at
+// the range's end, as the C libraries' atoi does in practice.
+int AtoI(const std::string& text) {
+  const long long value = std::strtoll(text.c_str(), nullptr, 10);
+  return static_cast<int>(std::clamp<long long>(value, INT_MIN, INT_MAX));
+}
+
 RegistryHistory MakeHistory(SettingsStore& store, const char* nameFormat) {
   return RegistryHistory(store, kSeasonalKey, nameFormat, kHistoryLimit);
 }
@@ -41,7 +50,7 @@ bool LoadFirstRecord(SettingsStore& store, const char* nameFormat, std::vector<s
 void LoadNumbers(SettingsStore& store, const char* nameFormat, std::vector<int>& numbers) {
   RegistryHistory history = MakeHistory(store, nameFormat);
   history.Load();
-  for (const std::string& entry : history.Entries()) numbers.push_back(std::atoi(entry.c_str()));
+  for (const std::string& entry : history.Entries()) numbers.push_back(AtoI(entry));
 }
 
 void SaveNumbers(SettingsStore& store, const char* nameFormat, const std::vector<int>& numbers) {
@@ -180,8 +189,8 @@ void ReadHistory(WizardSeasonState& state, SettingsStore& store, const Clock& cl
   std::vector<std::string> pieces;
   if (state.Start.value == 0.0) {
     if (LoadFirstRecord(store, kHistStartEndMonth, pieces)) {
-      state.Start.value = std::atoi(PieceAt(pieces, 0).c_str());
-      state.End.value = std::atoi(PieceAt(pieces, 1).c_str());
+      state.Start.value = AtoI(PieceAt(pieces, 0));
+      state.End.value = AtoI(PieceAt(pieces, 1));
     } else {
       const int year = clock.Now().year;
       state.Start = MakeSeasonDate(year, 1, 1);
@@ -204,8 +213,8 @@ void ReadHistory(WizardSeasonState& state, SettingsStore& store, const Clock& cl
   if (state.Root1.empty() && LoadFirstRecord(store, kHistFutureRoot, pieces)) {
     state.Root1 = PieceAt(pieces, 0);
     state.Root2 = PieceAt(pieces, 1);
-    state.Month1 = std::atoi(PieceAt(pieces, 2).c_str());
-    state.Month2 = std::atoi(PieceAt(pieces, 3).c_str());
+    state.Month1 = AtoI(PieceAt(pieces, 2));
+    state.Month2 = AtoI(PieceAt(pieces, 3));
     state.Multiplier1 = std::atof(PieceAt(pieces, 4).c_str());
     state.Multiplier2 = std::atof(PieceAt(pieces, 5).c_str());
   }

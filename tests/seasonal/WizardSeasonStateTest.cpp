@@ -3,6 +3,7 @@
 // exact texts the host and the next run read.
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <map>
 #include <sstream>
 #include <string>
@@ -431,6 +432,17 @@ TEST(WizardSources, AWrittenContextReadsBackToTheSameStateAndText) {
   WizardSeasonState again;
   ReadContext(again, Document(XmlGetXml(XmlFindNode(document, "Context", true))));
   EXPECT_EQ(Describe(again), Describe(state));
+}
+
+TEST(ReadHistory, NumbersPastTheIntRangeStopAtItsEnds) {
+  MemorySettingsStore store = StoreOf({{"Snl3WizSelYears_1", "99999999999", 0},
+                                       {"Snl3WizSelYears_2", "-99999999999", 0},
+                                       {"Snl3WizFutureRoot_1", "@C?@S?4000000000?-4000000000?1?1", 0}});
+  WizardSeasonState state;
+  ReadHistory(state, store, kClock);
+  EXPECT_EQ(state.SelYearIndexes, (std::vector<int>{INT_MAX, INT_MIN}));
+  EXPECT_EQ(state.Month1, INT_MAX);
+  EXPECT_EQ(state.Month2, INT_MIN);
 }
 
 }  // namespace

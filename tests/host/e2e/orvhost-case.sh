@@ -5,7 +5,8 @@
 # that the DOM's markup may carry in event texts) with what is expected. It prints "ok   <name>",
 # or "FAIL <name>" with what came and what was expected, and counts the failure in $failures.
 # The output is standard output followed by standard error; with apart_stderr=1 it is standard
-# output alone, and standard error is shown after it on a failure.
+# output alone, and standard error is shown after it on a failure. With drop_lines=<pattern>
+# (grep's), the lines of the output that match it are left out of the comparison.
 case_() {
   case_name=$1 case_code=$2 case_expected=$3
   shift 3
@@ -16,6 +17,7 @@ case_() {
   else
     case_actual=$( (cat "$out"; cat "$err") | tr -d '\r' | sed -e 's/\\[rnt]//g')
   fi
+  if [ -n "${drop_lines:-}" ]; then case_actual=$(printf '%s\n' "$case_actual" | grep -v -e "$drop_lines"); fi
   if [ "$case_actual" = "$case_expected" ] && [ "$case_rc" = "$case_code" ]; then
     echo "ok   $case_name"
   else

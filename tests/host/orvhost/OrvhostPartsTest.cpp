@@ -74,9 +74,11 @@ TEST(OrvhostScript, ParsesEveryCommandWithSeparatorsQuotesAndComments) {
       "wait 200\n"
       "screenshot out dir/sheet.png\n"
       "spin 1508 3; spin 1508 -12\n"
-      "text 1463\ntext 1464 \"\"");
+      "text 1463\ntext 1464 \"\"\n"
+      "toggle 4462 12\n"
+      "expect 4446 \"Season (for year 2000)\"");
   ASSERT_TRUE(s.error.empty()) << s.error;
-  ASSERT_EQ(s.steps.size(), 17u);
+  ASSERT_EQ(s.steps.size(), 19u);
   EXPECT_EQ(s.steps[0].op, ScriptOp::Text);
   EXPECT_EQ(s.steps[0].id, 1463);
   EXPECT_EQ(s.steps[0].text, "12.5");
@@ -101,6 +103,12 @@ TEST(OrvhostScript, ParsesEveryCommandWithSeparatorsQuotesAndComments) {
   EXPECT_EQ(s.steps[15].op, ScriptOp::Text);
   EXPECT_EQ(s.steps[15].text, "");  // text may be empty, quoted or not
   EXPECT_EQ(s.steps[16].text, "");
+  EXPECT_EQ(s.steps[17].op, ScriptOp::Toggle);
+  EXPECT_EQ(s.steps[17].id, 4462);
+  EXPECT_EQ(s.steps[17].index, 12);
+  EXPECT_EQ(s.steps[18].op, ScriptOp::Expect);
+  EXPECT_EQ(s.steps[18].id, 4446);
+  EXPECT_EQ(s.steps[18].text, "Season (for year 2000)");
 }
 
 TEST(OrvhostScript, BadScriptsNameTheCommandAndTheFault) {
@@ -117,6 +125,9 @@ TEST(OrvhostScript, BadScriptsNameTheCommandAndTheFault) {
       {"click 5 6", "unexpected \"6\" after click"},
       {"select 5", "select needs an item index"},
       {"select 5 -1", "select needs an item index"},
+      {"toggle 4462", "toggle needs an item index"},
+      {"toggle 0 1", "toggle needs a control id"},
+      {"expect", "expect needs a control id"},
       {"tab", "tab needs a tab index"},
       {"spin 1508", "spin needs a number of steps"},
       {"spin 1508 0", "spin needs a number of steps"},
