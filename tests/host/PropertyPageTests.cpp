@@ -1,7 +1,8 @@
 // The chart pages' IPropertyPage as a host's property frame drives it, with a sample page in a
 // real child dialog of a real window, a strict fake IChartPageHost as the chart object and a
 // recording IPropertyPageSite: every status code, Activate/Show/Move/Deactivate, a user's
-// change reaching the site, and Apply handing the host exactly the page's XML.
+// change reaching the site, and Apply handing the host exactly the page's XML. A picture of the
+// frame with the page shown is written to the test's folder (pageframe-sample.png).
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include "OrvChartDlgs_h.h"
+#include "WindowCapture.h"
 #include "SampleChartPage.h"
 #include "com/ComApartment.h"
 #include "com/ComObject.h"
@@ -265,6 +267,9 @@ TEST_F(PropertyPageTest, ActivateMakesTheDialogAsAChildShowMoveAndDeactivate) {
   EXPECT_EQ(at.right, 310);
   EXPECT_EQ(at.bottom, 220);
   EXPECT_EQ(page->Move(nullptr), E_POINTER);
+  // The frame with the page in it, as a user sees it (the test's folder, pageframe-sample.png).
+  UpdateWindow(frameWindow_);
+  EXPECT_EQ(orv::apps::CaptureWindowToPng(frameWindow_, L"pageframe-sample.png"), S_OK);
   EXPECT_EQ(page->Show(SW_HIDE), S_OK);
   EXPECT_FALSE(IsWindowVisible(window));
 

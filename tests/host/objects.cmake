@@ -31,6 +31,6 @@ set_source_files_properties(${host_pageframe_rc} PROPERTIES
 add_executable(host_pageframe_tests ${CMAKE_CURRENT_LIST_DIR}/PropertyPageTests.cpp ${host_pageframe_rc})
 target_include_directories(host_pageframe_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests/chartpages)
 add_dependencies(host_pageframe_tests orv_idl_outputs)
-target_link_libraries(host_pageframe_tests PRIVATE orv_host_pageframe orv_com GTest::gtest_main)
+target_link_libraries(host_pageframe_tests PRIVATE orv_host_pageframe orv_com orv_app_capture GTest::gtest_main)
 set_target_properties(host_pageframe_tests PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ORV_RUNTIME_DIR})
 orv_add_test(host_pageframe_tests)
