@@ -12,6 +12,9 @@ const char* const kUsage =
     "  --dll <path>             direct: the DLL (default OrvChartDlgs.dll beside orvhost.exe)\n"
     "  --manifest <file>        manifest: this application manifest instead of the built-in one\n"
     "  --doc <file.xml>         the document (default: the built-in Trendline line study sheet)\n"
+    "  --page <class id|ProgID> show that chart page in orvhost's frame (OK, Cancel, Apply) instead of\n"
+    "                           a sheet: the page reads its properties from the document's element\n"
+    "                           named as its root; --activate direct or registered\n"
     "  --no-chart-data          DoModal without chart data (default DoModal2 with a synthetic chart)\n"
     "  --language <file.xml>    the prompts served as document LANGUAGE (default: the built-in sample)\n"
     "  --prefs <file.xml>       the theme, colour table and values served as PREFS (default: built in)\n"
@@ -31,6 +34,9 @@ const char* const kUsage =
     "Prints each StatusEvent as one line \"StatusEvent: <pValue>\" (\\r \\n \\t \\\\ escaped), each help\n"
     "request as \"ShowHelp: <book> <topic> <flags>\" and each stored value as\n"
     "\"SetValue: <section> <key> <value> <kind>\", then \"DoModal returned <n>\".\n"
+    "With --page: \"GetPageProperties: <scope> <root> found|not found\", \"SetPageProperties: <scope>\n"
+    "<xml>\" and \"OnStatusChange: <flags>\" as the page calls them, then \"Frame returned <n>\" (1 OK,\n"
+    "0 Cancel).\n"
     "Exit code: the result (1 changed, 0 not, 2 no such sheet, 255 for -1);\n"
     "3 a bad or failed script, 4 a bad command line or document, 5 the component failed.\n";
 
@@ -72,6 +78,8 @@ ParsedOptions ParseOptions(const std::vector<std::wstring>& args) {
     } else if (arg == L"--manifest") {
       if (!value(o.manifestPath)) return parsed;
       sawManifest = true;
+    } else if (arg == L"--page") {
+      if (!value(o.pageClass)) return parsed;
     } else if (arg == L"--doc") {
       if (!value(o.docPath)) return parsed;
     } else if (arg == L"--script") {
@@ -104,6 +112,8 @@ ParsedOptions ParseOptions(const std::vector<std::wstring>& args) {
     parsed.error = "--dll goes only with --activate direct";
   else if (sawManifest && o.activation != Activation::Manifest)
     parsed.error = "--manifest goes only with --activate manifest";
+  else if (!o.pageClass.empty() && o.activation == Activation::Manifest)
+    parsed.error = "--page goes with --activate direct or registered";
   else if (o.intraday && o.noChartData)
     parsed.error = "--intraday needs chart data; drop --no-chart-data";
   else if (o.noServices && (!o.languagePath.empty() || !o.prefsPath.empty()))

@@ -18,6 +18,7 @@ struct Options {
   std::wstring dllPath;        // direct: the DLL (default: OrvChartDlgs.dll beside orvhost.exe)
   std::wstring manifestPath;   // manifest: an application manifest file instead of the built-in one
   std::wstring docPath;        // the document; empty: the built-in line study sample
+  std::wstring pageClass;      // --page: a chart page's class id or ProgID, shown in orvhost's frame
   std::wstring script;         // --script: a file name, or the script itself
   std::wstring screenshot;     // --screenshot: screenshot <file>; cancel, after the script
   std::wstring boxScreenshot;  // --box-screenshot: the first window opened over the sheet, answered by Esc

@@ -6,6 +6,7 @@
 #include "ComObjects.h"
 #include "HostServiceObjects.h"
 #include "Options.h"
+#include "PageFrame.h"
 #include "PopupCapture.h"
 #include "Script.h"
 #include "ScriptDriver.h"
@@ -144,6 +145,35 @@ std::string ErrorDescription() {
 
 int ExitCodeOf(long result) { return (result < 0 || result > 255) ? 255 : static_cast<int>(result); }
 
+// --page: the chart page in orvhost's own frame, with a chart object serving the document.
+int RunPage(const Options& options, const ComPtr<IXMLDOMDocument2>& document, std::vector<ScriptStep> steps) {
+  std::string error;
+  PageInstance page;
+  if (!page.Create(options, error)) {
+    std::fprintf(stderr, "orvhost: %s\n", error.c_str());
+    return kExitComponentFailed;
+  }
+  const ComPtr<PageHostObject> host = PageHostObject::Make(document, stdout);
+  ScriptDriver driver(std::move(steps));
+  if (!driver.Finished() && !driver.Start()) {
+    std::fprintf(stderr, "orvhost: cannot start the script's timer (error %lu)\n", GetLastError());
+    return kExitComponentFailed;
+  }
+  const int result = RunPageFrame(page.Page(), static_cast<IChartPageHost*>(host.get()), stdout, error);
+  driver.Stop();
+  if (result < 0) {
+    std::fprintf(stderr, "orvhost: %s\n", error.c_str());
+    return kExitComponentFailed;
+  }
+  std::printf("Frame returned %d\n", result);
+  std::fflush(stdout);
+  if (!driver.Error().empty()) {
+    std::fprintf(stderr, "orvhost: script: %s\n", driver.Error().c_str());
+    return kExitBadScript;
+  }
+  return result;
+}
+
 int Run(const std::vector<std::wstring>& args) {
   const ParsedOptions parsed = ParseOptions(args);
   if (!parsed.error.empty()) {
@@ -200,6 +230,8 @@ int Run(const std::vector<std::wstring>& args) {
       return kExitComponentFailed;
     }
   }
+
+  if (!options.pageClass.empty()) return RunPage(options, document, std::move(steps));
 
   ComponentInstance component;
   if (!component.Create(options, error)) {

@@ -34,3 +34,16 @@ add_dependencies(host_pageframe_tests orv_idl_outputs)
 target_link_libraries(host_pageframe_tests PRIVATE orv_host_pageframe orv_com orv_app_capture GTest::gtest_main)
 set_target_properties(host_pageframe_tests PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${ORV_RUNTIME_DIR})
 orv_add_test(host_pageframe_tests)
+
+# The sample page as a COM class in a DLL of its own, and orvhost showing it in its own frame by
+# class id: the page object made through the class factory, its properties served from a document,
+# scripted changes, and what the page hands back exactly.
+add_library(orv_sample_pages SHARED ${CMAKE_CURRENT_LIST_DIR}/SamplePagesModule.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/SamplePages.def ${host_pageframe_rc})
+target_include_directories(orv_sample_pages PRIVATE ${PROJECT_SOURCE_DIR}/tests/chartpages)
+target_link_libraries(orv_sample_pages PRIVATE orv_host_pageframe)
+set_target_properties(orv_sample_pages PROPERTIES PREFIX "" RUNTIME_OUTPUT_DIRECTORY ${ORV_RUNTIME_DIR})
+add_test(NAME host_e2e_pageframe
+  COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/pageframe.sh $<TARGET_FILE:orvhost> $<TARGET_FILE:orv_sample_pages>
+    ${CMAKE_CURRENT_LIST_DIR}/e2e)
+set_tests_properties(host_e2e_pageframe PROPERTIES LABELS wine TIMEOUT 300)

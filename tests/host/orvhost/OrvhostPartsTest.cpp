@@ -41,6 +41,10 @@ TEST(OrvhostOptions, DefaultsAndEveryOption) {
   EXPECT_EQ(p.options.progId, L"OrvChartDlgs.ChartPages");
   EXPECT_TRUE(p.options.noChartData);
   EXPECT_TRUE(p.options.noServices);
+
+  p = ParseOptions({L"--activate", L"registered", L"--page", L"OrvChartDlgs.ChartDrawPg"});
+  ASSERT_TRUE(p.error.empty()) << p.error;
+  EXPECT_EQ(p.options.pageClass, L"OrvChartDlgs.ChartDrawPg");
 }
 
 TEST(OrvhostOptions, RefusesWhatItWouldIgnoreOrCannotRead) {
@@ -56,6 +60,8 @@ TEST(OrvhostOptions, RefusesWhatItWouldIgnoreOrCannotRead) {
       {L"--intraday", L"--no-chart-data"},
       {L"--no-services", L"--prefs", L"p.xml"},
       {L"--language"},
+      {L"--page", L"{6D73A8E6-1A90-438E-A317-B76226F7B7EA}"},  // the default, manifest, has no page frame
+      {L"--activate", L"direct", L"--page"},
   };
   for (const auto& args : bad) {
     const ParsedOptions p = ParseOptions(args);
