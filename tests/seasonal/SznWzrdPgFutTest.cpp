@@ -435,15 +435,4 @@ TEST(SznFuturesPages, ALongRootIsReadWhole) {
   EXPECT_EQ(w.State().Root1, root);
 }
 
-TEST(SznFuturesPages, HelpAsksForTheBookAndThePagesId) {
-  for (const FutPage* page : kFutPages) {
-    SCOPED_TRACE(page->name);
-    SznPages w;
-    w.Start(page->dialogId);
-    EXPECT_TRUE(w.PageOf(page->dialogId).OnHelp());
-    EXPECT_EQ(w.Controls(page->dialogId).HelpRequests(),
-              (std::vector<std::pair<std::string, int>>{{"CHARTX", page->dialogId}}));
-  }
-}
-
 }  // namespace

@@ -10,7 +10,10 @@
 #include <vector>
 
 #include "SznSheetRun.h"
+#include "SznPageDriver.h"
 #include "dlgkit/Page.h"
+#include "dlgkit/fake/FakeHostServices.h"
+#include "seasonal/SznPageTable.h"
 
 namespace {
 
@@ -418,6 +421,36 @@ TEST(SznWizard, TheRequestsContextComesBeforeTheHistory) {
           });
   EXPECT_EQ(run.wizard.State().Symbol1, "ZW");
   EXPECT_EQ(run.wizard.State().Symbol2, "INDU.X") << "the history fills only an empty first symbol";
+}
+
+// The sheet comes up themed and tells the host's settings service of one use of the wizard; a
+// host whose service is missing or fails that call still gets its wizard.
+TEST(SznWizard, OpeningTellsTheHostOfOneUseWhateverItAnswers) {
+  for (int variant = 0; variant < 3; ++variant) {
+    orv::FakeHostServices host;
+    host.ExpectNoTheme();  // the sheet's own children
+    if (variant == 0) host.ExpectSetValue("Displays/Seasonal", "ByWizard", 1, 4, 5);
+    if (variant == 1) host.ExpectSettingsFailure(orv::SettingsCall::SetValue, orv::kStatusFail);
+    if (variant == 2) host.ExpectNoSettingsService();
+    host.ExpectNoTheme();  // the first page
+    orv::ScopedHostServices scoped(host);
+    MemorySettingsStore store;
+    WizardRun run(store);
+    EXPECT_EQ(run.Run(Request(-1), [&](HeadlessSheetRunner&) { EXPECT_TRUE(run.runner.Sheet().PressCancel()); }), 0);
+    EXPECT_TRUE(host.AllExpectationsMet()) << "variant " << variant;
+    EXPECT_TRUE(host.UnexpectedCalls().empty()) << "variant " << variant;
+  }
+}
+
+TEST(SznWizard, EveryPageAnswersHelpWithItsOwnTopic) {
+  for (const auto& info : orv::seasonal::kSznPages) {
+    szntest::SznPages pages;
+    pages.Start(info.dialogId);
+    EXPECT_TRUE(pages.PageOf(info.dialogId).OnHelp()) << info.name;
+    EXPECT_EQ(pages.Controls(info.dialogId).HelpRequests(),
+              (std::vector<std::pair<std::string, int>>{{"CHARTX", info.dialogId}}))
+        << info.name;
+  }
 }
 
 }  // namespace
