@@ -237,19 +237,6 @@ TEST(ApplyDefaults, FillsOnlyWhatIsOpen) {
   EXPECT_EQ(Describe(set), before);
 }
 
-TEST(WizardSources, AFirstRunWithAnEmptyStoreAndNoContextOpensWithTheDefaults) {
-  MemorySettingsStore store;
-  WizardSeasonState state = FromContext("<PropertyPageList/>");
-  ReadHistory(state, store, kClock);
-  ApplyDefaults(state);
-  EXPECT_EQ(Describe(state),
-            "window 46023-46387 mode 0 back 5 sel [] form 0 sym 'MSFT' 'INDU.X' root '@C' 0 x1 '@S' 0 x1 years [] "
-            "[]");
-  EXPECT_EQ(MonthOf(state.Start), 1);
-  EXPECT_EQ(MonthOf(state.End), 12);
-  EXPECT_TRUE(store.keys().empty());  // reading writes nothing
-}
-
 WizardSeasonState Finished() {
   WizardSeasonState s;
   s.Start = MakeSeasonDate(2026, 11, 1);
@@ -420,18 +407,6 @@ TEST(WriteContext, WithoutDocumentRaisesPointer) {
   } catch (const XmlComError& e) {
     EXPECT_EQ(e.status(), kStatusPointer);
   }
-}
-
-TEST(WizardSources, AWrittenContextReadsBackToTheSameStateAndText) {
-  XmlNode document = Document(kFinishedContext);
-  WizardSeasonState state;
-  ReadContext(state, document);
-  WriteContext(state, document);
-  EXPECT_EQ(xmltest::Markup(XmlFirstChild(document)),
-            std::string("<PropertySheet Name=\"SznWzrdPs\">") + kFinishedContext + "</PropertySheet>");
-  WizardSeasonState again;
-  ReadContext(again, Document(XmlGetXml(XmlFindNode(document, "Context", true))));
-  EXPECT_EQ(Describe(again), Describe(state));
 }
 
 TEST(ReadHistory, NumbersPastTheIntRangeStopAtItsEnds) {
