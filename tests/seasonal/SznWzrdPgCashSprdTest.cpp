@@ -24,27 +24,6 @@ void CashSpread(orv::seasonal::WizardSeasonState& s) {
   s.Symbol2 = "INDU.X";
 }
 
-TEST(SznCashSpreadPage, StartShowsBothSymbolsAndTheHelp) {
-  SznPages w;
-  CashSpread(w.State());
-  w.Start(IDD_SZN_CASHSPRD);
-  FakeControls& c = w.Controls(IDD_SZN_CASHSPRD);
-  EXPECT_EQ(c.GetDlgItemTextA(IDC_SZN_CASHSPRD_SYMBOL1, 256), "MSFT");
-  EXPECT_EQ(c.GetDlgItemTextA(IDC_SZN_CASHSPRD_SYMBOL2, 256), "INDU.X");
-  EXPECT_EQ(c.GetDlgItemTextA(IDC_SZN_CASHSPRD_HELP, 4096),
-            "Enter two different contract instruments to    create a cash spread.    Orvane will create the "
-            "difference of the two contracts and split the    result by the yearly seasons.");
-  EXPECT_TRUE(c.Control(IDC_SZN_CASHSPRD_HELP).readOnly);
-  EXPECT_EQ(c.GetDlgItemTextA(IDC_SZN_CASHSPRD_TITLE, 256), "Choose contract symbols");
-  EXPECT_EQ(c.GetDlgItemTextA(IDC_SZN_CASHSPRD_LABEL1, 256), "Symbol1:");
-  EXPECT_EQ(c.GetDlgItemTextA(IDC_SZN_CASHSPRD_LABEL2, 256), "Symbol2:");
-  EXPECT_FALSE(c.IsDlgItemVisible(IDC_SZN_CASHSPRD_LOOKUP1));
-  EXPECT_FALSE(c.IsDlgItemVisible(IDC_SZN_CASHSPRD_LOOKUP2));
-  EXPECT_TRUE(w.Wizard().IsWizardButtonEnabled(orv::kWizBack));
-  EXPECT_TRUE(w.Wizard().IsWizardButtonEnabled(orv::kWizNext));
-  EXPECT_FALSE(w.Wizard().IsWizardButtonEnabled(orv::kWizFinish));
-}
-
 TEST(SznCashSpreadPage, NextStoresBothSymbolsAndAsksForEach) {
   struct Row {
     const char* symbol1;

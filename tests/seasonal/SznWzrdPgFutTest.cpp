@@ -24,42 +24,28 @@ using szntest::SznPages;
 struct FutPage {
   const char* name;
   int dialogId;
-  int title, help, root, month, years, count, lookup;
-  const char* titleText;
+  int root, month, years, count;
   std::string WizardSeasonState::*rootField;
   int WizardSeasonState::*monthField;
   std::vector<int> WizardSeasonState::*yearsField;
   bool singleRoot;  // checks at Finish
 };
 
-const FutPage kFut1{"First Futures",
-                    IDD_SZN_FUT1,
-                    IDC_SZN_FUT1_TITLE,
-                    IDC_SZN_FUT1_HELP,
-                    IDC_SZN_FUT1_ROOT,
-                    IDC_SZN_FUT1_MONTH,
-                    IDC_SZN_FUT1_YEARS,
-                    IDC_SZN_FUT1_COUNT,
-                    IDC_SZN_FUT1_LOOKUP,
-                    "Select first set of futures contracts",
-                    &WizardSeasonState::Root1,
-                    &WizardSeasonState::Month1,
-                    &WizardSeasonState::Years1,
-                    false};
-const FutPage kFut2{"Second Futures",           IDD_SZN_FUT2,
-                    IDC_SZN_FUT2_TITLE,         IDC_SZN_FUT2_HELP,
-                    IDC_SZN_FUT2_ROOT,          IDC_SZN_FUT2_MONTH,
-                    IDC_SZN_FUT2_YEARS,         IDC_SZN_FUT2_COUNT,
-                    IDC_SZN_FUT2_LOOKUP,        "Second set of futures contracts",
-                    &WizardSeasonState::Root2,  &WizardSeasonState::Month2,
-                    &WizardSeasonState::Years2, false};
-const FutPage kSnglRoot{"Single Root Futures",      IDD_SZN_SNGLROOTFUT,
-                        IDC_SZN_SNGLROOT_TITLE,     IDC_SZN_SNGLROOT_HELP,
-                        IDC_SZN_SNGLROOT_ROOT,      IDC_SZN_SNGLROOT_MONTH,
-                        IDC_SZN_SNGLROOT_YEARS,     IDC_SZN_SNGLROOT_COUNT,
-                        IDC_SZN_SNGLROOT_LOOKUP,    "Select Futures",
-                        &WizardSeasonState::Root1,  &WizardSeasonState::Month1,
-                        &WizardSeasonState::Years1, true};
+using S = WizardSeasonState;
+const FutPage kFut1{"First Futures",    IDD_SZN_FUT1, IDC_SZN_FUT1_ROOT, IDC_SZN_FUT1_MONTH, IDC_SZN_FUT1_YEARS,
+                    IDC_SZN_FUT1_COUNT, &S::Root1,    &S::Month1,        &S::Years1,         false};
+const FutPage kFut2{"Second Futures",   IDD_SZN_FUT2, IDC_SZN_FUT2_ROOT, IDC_SZN_FUT2_MONTH, IDC_SZN_FUT2_YEARS,
+                    IDC_SZN_FUT2_COUNT, &S::Root2,    &S::Month2,        &S::Years2,         false};
+const FutPage kSnglRoot{"Single Root Futures",
+                        IDD_SZN_SNGLROOTFUT,
+                        IDC_SZN_SNGLROOT_ROOT,
+                        IDC_SZN_SNGLROOT_MONTH,
+                        IDC_SZN_SNGLROOT_YEARS,
+                        IDC_SZN_SNGLROOT_COUNT,
+                        &S::Root1,
+                        &S::Month1,
+                        &S::Years1,
+                        true};
 const FutPage* const kFutPages[] = {&kFut1, &kFut2, &kSnglRoot};
 
 // Three chart years picked on the Years page in 2026: this year, the year before and 2020; the
@@ -97,10 +83,6 @@ TEST(SznFuturesPages, StartShowsTheRootFiftyYearsFromTenAheadTheMonthsAndTheCoun
     FakeControls& c = w.Controls(page->dialogId);
 
     EXPECT_EQ(c.GetDlgItemTextA(page->root, 256), "@W");
-    EXPECT_EQ(c.GetDlgItemTextA(page->title, 256), page->titleText);
-    EXPECT_FALSE(c.GetDlgItemTextA(page->help, 4096).empty());
-    EXPECT_TRUE(c.Control(page->help).readOnly);
-    EXPECT_FALSE(c.IsDlgItemVisible(page->lookup)) << "the lookup button stays hidden";
 
     const std::vector<std::string> years = Texts(c, page->years);
     ASSERT_EQ(years.size(), 50u);
@@ -301,46 +283,6 @@ TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
         EXPECT_TRUE(c.Beeps().empty());
       }
     }
-  }
-}
-
-TEST(SznFuturesPages, PassingTheChecksLeadsOnOrFinishesWithTheLabels) {
-  {
-    SCOPED_TRACE("first futures: on to the second set");
-    SznPages w(2026);
-    PickChartYears(w.State());
-    w.State().FormSel = 3;
-    w.Start(IDD_SZN_FUT1);
-    ASSERT_TRUE(w.Wizard().PressNext());
-    EXPECT_EQ(w.Current(), IDD_SZN_FUT2);
-    EXPECT_EQ(w.State().Years1, (std::vector<int>{2026, 2025, 2020}));
-    EXPECT_TRUE(w.State().Labels.empty()) << "labels are built on the way to Finish only";
-    SCOPED_TRACE("second futures: on to the multipliers");
-    FakeControls& c = w.Controls(IDD_SZN_FUT2);
-    c.TypeText(IDC_SZN_FUT2_ROOT, "QHO");
-    c.SelectComboItem(IDC_SZN_FUT2_MONTH, 11);
-    ASSERT_TRUE(w.Wizard().PressNext());
-    EXPECT_EQ(w.Current(), IDD_SZN_MULT);
-    EXPECT_EQ(w.State().Root2, "QHO");
-    EXPECT_EQ(w.State().Month2, 11);
-    EXPECT_EQ(w.State().Years2, (std::vector<int>{2026, 2025, 2020}));
-  }
-  {
-    SCOPED_TRACE("single root futures: Finish");
-    SznPages w(2026);
-    PickChartYears(w.State());
-    w.State().FormSel = 1;
-    w.State().Years1 = {2027, 2026, 2025};
-    w.State().Multiplier1 = 2.0;  // no multiplier text for a single root
-    w.Start(IDD_SZN_SNGLROOTFUT);
-    FakeControls& c = w.Controls(IDD_SZN_SNGLROOTFUT);
-    EXPECT_TRUE(w.Wizard().IsWizardButtonEnabled(orv::kWizFinish));
-    EXPECT_FALSE(w.Wizard().IsWizardButtonEnabled(orv::kWizNext));
-    c.TypeText(IDC_SZN_SNGLROOT_ROOT, "QNG");
-    c.SelectComboItem(IDC_SZN_SNGLROOT_MONTH, 0);
-    ASSERT_TRUE(w.Wizard().PressFinish());
-    EXPECT_EQ(w.Wizard().Result(), 1);
-    EXPECT_EQ(w.State().Labels, (std::vector<std::string>{"QNG2027F", "QNG2026F", "QNG2025F"}));
   }
 }
 
