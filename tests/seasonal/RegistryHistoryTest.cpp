@@ -44,14 +44,6 @@ TEST(RegistryHistory, LoadSkipsEmptyAndRepeatedValuesAndStopsAtTheLimit) {
   EXPECT_EQ(history.Entries(), (Strings{"Corn", "Wheat", "Oats"}));
 }
 
-TEST(RegistryHistory, LoadOfAMissingKeyIsEmpty) {
-  MemorySettingsStore store;
-  store.WriteString("Software\\Other", "Hist_1", "Corn");
-  RegistryHistory history(store, kKey, "Hist_%d", 20);
-  history.Load();
-  EXPECT_TRUE(history.Entries().empty());
-}
-
 TEST(RegistryHistory, AddPutsTheTextInFrontWithoutRepeatsAndDropsTheOldest) {
   struct Row {
     const char* name;

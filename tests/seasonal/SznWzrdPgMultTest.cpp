@@ -161,17 +161,4 @@ TEST(SznMultipliersPage, BackWithAFieldThatDoesNotReadStoresAndStays) {
   EXPECT_EQ(c.FocusHistory().back(), IDC_SZN_MULT_2);
 }
 
-TEST(SznMultipliersPage, ReturningByBackKeepsWhatTheUserLeft) {
-  SznPages w;
-  Spread(w.State(), 2);
-  w.Start(IDD_SZN_MULT);
-  w.Controls(IDD_SZN_MULT).TypeText(IDC_SZN_MULT_1, "4.75");
-  ASSERT_TRUE(w.Wizard().PressBack());
-  ASSERT_EQ(w.Current(), IDD_SZN_CASHSPRD);
-  w.State().Multiplier1 = 8.0;  // the page doesn't start again, so it doesn't read this
-  ASSERT_TRUE(w.Wizard().PressNext());
-  ASSERT_EQ(w.Current(), IDD_SZN_MULT);
-  EXPECT_EQ(w.Controls(IDD_SZN_MULT).GetDlgItemTextA(IDC_SZN_MULT_1, 256), "4.75");
-}
-
 }  // namespace
