@@ -265,48 +265,35 @@ TEST(WriteContractList, ReplacesTheOldNodesUnderTheRoot) {
       "<StartMonthIndex>9</StartMonthIndex><Context><YearsBack>3</YearsBack></Context>"
       "<ContractList><Contract Symbol=\"X\" Year=\"1\"/></ContractList><EndMonthIndex>1</EndMonthIndex>"
       "<YearsBack>7</YearsBack>";
+  // The months from the window (November to February; -1 for dates that aren't), YearsBack, then
+  // the row's contracts.
   struct Row {
     const char* name;
     int yearEnterMode;
     std::vector<int> selYears;
     bool validDates;
-    const char* added;
+    const char* contracts;
   };
   const Row rows[] = {
       {"one contract a year; a missing label is empty",
        0,
        {2026, 2025, 2024},
        true,
-       "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"
-       "<ContractList><Contract Symbol=\"@C2027H - @S2026K\" Year=\"2026\"/>"
-       "<Contract Symbol=\"@C2026H - @S2025K\" Year=\"2025\"/><Contract Symbol=\"\" Year=\"2024\"/></ContractList>"},
-      {"no years, no list",
-       0,
-       {},
-       true,
-       "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"},
+       "<ContractList><Contract Symbol=\"@C2027H - @S2026K\" Year=\"2026\"/><Contract Symbol=\"@C2026H - @S2025K\" "
+       "Year=\"2025\"/><Contract Symbol=\"\" Year=\"2024\"/></ContractList>"},
+      {"no years, no list", 0, {}, true, ""},
       {"mode 1: exactly one contract, of year -1 without years",
        1,
        {},
        true,
-       "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"
        "<ContractList><Contract Symbol=\"@C2027H - @S2026K\" Year=\"-1\"/></ContractList>"},
       {"mode 1 with years still gives one",
        1,
        {2026, 2025},
        true,
-       "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"
        "<ContractList><Contract Symbol=\"@C2027H - @S2026K\" Year=\"2026\"/></ContractList>"},
-      {"mode 2 (the Years page not on the way): no list",
-       2,
-       {},
-       true,
-       "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex><YearsBack>5</YearsBack>"},
-      {"invalid dates give month -1",
-       0,
-       {},
-       false,
-       "<StartMonthIndex>-1</StartMonthIndex><EndMonthIndex>-1</EndMonthIndex><YearsBack>5</YearsBack>"},
+      {"mode 2 (the Years page not on the way): no list", 2, {}, true, ""},
+      {"invalid dates give month -1", 0, {}, false, ""},
   };
   for (const Row& row : rows) {
     WizardSeasonState state = Finished();
@@ -320,8 +307,10 @@ TEST(WriteContractList, ReplacesTheOldNodesUnderTheRoot) {
     EXPECT_TRUE(WriteContractList(state, document)) << row.name;
     // The YearsBack found first lies in the old Context; the one under the root stays.
     EXPECT_EQ(xmltest::Markup(XmlFirstChild(document)),
-              std::string("<PropertySheet Name=\"SznWzrdPs\"><Context/><YearsBack>7</YearsBack>") + row.added +
-                  "</PropertySheet>")
+              std::string("<PropertySheet Name=\"SznWzrdPs\"><Context/><YearsBack>7</YearsBack>") +
+                  (row.validDates ? "<StartMonthIndex>11</StartMonthIndex><EndMonthIndex>2</EndMonthIndex>"
+                                  : "<StartMonthIndex>-1</StartMonthIndex><EndMonthIndex>-1</EndMonthIndex>") +
+                  "<YearsBack>5</YearsBack>" + row.contracts + "</PropertySheet>")
         << row.name;
   }
 }
