@@ -51,10 +51,10 @@ TEST(SznCashSpreadPage, NextStoresBothSymbolsAndAsksForEach) {
       EXPECT_EQ(c.MessageBoxes()[0].text, "Error Empty Symbol");
       EXPECT_EQ(c.MessageBoxes()[0].caption, "");
       EXPECT_EQ(c.MessageBoxes()[0].flags, 0u);
-      EXPECT_EQ(w.Current(), IDD_SZN_CASHSPRD);
+      EXPECT_EQ(w.CurrentDialog(), IDD_SZN_CASHSPRD);
     } else {
       EXPECT_TRUE(c.MessageBoxes().empty());
-      EXPECT_EQ(w.Current(), IDD_SZN_MULT);
+      EXPECT_EQ(w.CurrentDialog(), IDD_SZN_MULT);
     }
   }
 }
@@ -68,7 +68,7 @@ TEST(SznCashSpreadPage, ASymbolThatCannotBeReadKeepsTheUserWithoutAMessage) {
   c.TypeText(IDC_SZN_CASHSPRD_SYMBOL1, "IBM");
   const std::size_t beepsAtStart = c.Beeps().size();
   EXPECT_FALSE(w.Wizard().PressNext());
-  EXPECT_EQ(w.Current(), IDD_SZN_CASHSPRD);
+  EXPECT_EQ(w.CurrentDialog(), IDD_SZN_CASHSPRD);
   EXPECT_TRUE(c.MessageBoxes().empty());
   EXPECT_EQ(c.Beeps().size(), beepsAtStart + 1);
   EXPECT_EQ(w.State().Symbol1, "IBM") << "the first was read before";
@@ -82,7 +82,7 @@ TEST(SznCashSpreadPage, BackGoesToTheFormPageAndStoresNothing) {
   FakeControls& c = w.Controls(IDD_SZN_CASHSPRD);
   c.TypeText(IDC_SZN_CASHSPRD_SYMBOL1, "");
   ASSERT_TRUE(w.Wizard().PressBack());
-  EXPECT_EQ(w.Current(), IDD_SZN_FORM);
+  EXPECT_EQ(w.CurrentDialog(), IDD_SZN_FORM);
   EXPECT_EQ(w.State().Symbol1, "MSFT");
   EXPECT_TRUE(c.MessageBoxes().empty());
 }

@@ -4,19 +4,19 @@
 #include <string>
 #include <vector>
 
-#include "SznWizardRun.h"
+#include "SznPageDriver.h"
 
 namespace {
 
 using szntest::FirstRunState;
-using szntest::WizardRun;
+using szntest::SznPages;
 
 TEST(SznWzrdPgConstr, FinishGoesThroughWithoutBuildingLabels) {
   auto state = FirstRunState();
   state.FormSel = 7;
   state.SelYears = {2024, 2023};
   state.Labels = {"old"};
-  WizardRun run(state);
+  SznPages run(state);
   run.Start(IDD_SZN_CONSTR);
   EXPECT_TRUE(run.Wizard().PressFinish());
   EXPECT_EQ(run.Wizard().Result(), 1);

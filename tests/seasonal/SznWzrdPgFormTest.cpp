@@ -4,12 +4,12 @@
 
 #include <string>
 
-#include "SznWizardRun.h"
+#include "SznPageDriver.h"
 
 namespace {
 
 using szntest::FirstRunState;
-using szntest::WizardRun;
+using szntest::SznPages;
 
 constexpr int kRadios[] = {IDC_SZN_FORM_SNGLINST, IDC_SZN_FORM_SNGLROOTFUT, IDC_SZN_FORM_CASHSPRD, IDC_SZN_FORM_FUTSPRD,
                            IDC_SZN_FORM_CASHFUTSPRD};
@@ -57,7 +57,7 @@ TEST(SznWzrdPgForm, StartsOnTheFormOfTheStateWithItsText) {
     SCOPED_TRACE(form);
     auto state = FirstRunState();
     state.FormSel = form;
-    WizardRun run(state);
+    SznPages run(state);
     run.Start(IDD_SZN_FORM);
     orv::FakeControls& c = run.Current();
     EXPECT_EQ(CheckedRadio(c), form);
@@ -70,7 +70,7 @@ TEST(SznWzrdPgForm, StartsOnTheFormOfTheStateWithItsText) {
 TEST(SznWzrdPgForm, AFormWithoutARadioChecksNoneAndNextLandsOnUnderConstruction) {
   auto state = FirstRunState();
   state.FormSel = 7;
-  WizardRun run(state);
+  SznPages run(state);
   run.Start(IDD_SZN_FORM);
   EXPECT_EQ(CheckedRadio(run.Current()), -1);
   EXPECT_EQ(run.Current().Control(IDC_SZN_FORM_HELP).text, "");
@@ -80,7 +80,7 @@ TEST(SznWzrdPgForm, AFormWithoutARadioChecksNoneAndNextLandsOnUnderConstruction)
 }
 
 TEST(SznWzrdPgForm, EachClickStoresTheFormAndShowsItsText) {
-  WizardRun run;
+  SznPages run;
   run.Start(IDD_SZN_FORM);
   orv::FakeControls& c = run.Current();
   for (int form : {3, 1, 4, 0, 2, 2}) {
@@ -94,7 +94,7 @@ TEST(SznWzrdPgForm, EachClickStoresTheFormAndShowsItsText) {
 TEST(SznWzrdPgForm, NextStoresTheCheckedFormAndLeadsToItsPage) {
   for (int form = 0; form < 5; ++form) {
     SCOPED_TRACE(kForms[form].name);
-    WizardRun run;
+    SznPages run;
     run.Start(IDD_SZN_FORM);
     run.Current().Click(kRadios[form]);
     run.State().FormSel = 9;  // Next reads the radios again

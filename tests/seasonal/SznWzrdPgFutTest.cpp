@@ -275,7 +275,7 @@ TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
         EXPECT_EQ(c.MessageBoxes()[0].caption, "");
         EXPECT_EQ(c.MessageBoxes()[0].flags, 0u);
         EXPECT_TRUE(w.Wizard().IsRunning());
-        EXPECT_EQ(w.Current(), page->dialogId) << "the wizard stays on the page";
+        EXPECT_EQ(w.CurrentDialog(), page->dialogId) << "the wizard stays on the page";
         EXPECT_TRUE(s.Labels.empty());
       } else {
         EXPECT_TRUE(passed);
@@ -312,7 +312,7 @@ TEST(SznFuturesPages, ARootThatCannotBeReadGoesOnUncheckedOrRefusesFinishSilentl
       EXPECT_TRUE(w.State().Labels.empty());
     } else {
       EXPECT_TRUE(passed);
-      EXPECT_EQ(w.Current(), page->dialogId == IDD_SZN_FUT1 ? IDD_SZN_FUT2 : IDD_SZN_MULT);
+      EXPECT_EQ(w.CurrentDialog(), page->dialogId == IDD_SZN_FUT1 ? IDD_SZN_FUT2 : IDD_SZN_MULT);
     }
   }
 }
@@ -339,7 +339,7 @@ TEST(SznFuturesPages, BackLeadsByTheFormAndChangesNoState) {
     FakeControls& c = w.Controls(row.page->dialogId);
     c.TypeText(row.page->root, "");
     ASSERT_TRUE(w.Wizard().PressBack());
-    EXPECT_EQ(w.Current(), row.back);
+    EXPECT_EQ(w.CurrentDialog(), row.back);
     EXPECT_TRUE(c.MessageBoxes().empty());
     EXPECT_EQ(w.State().*row.page->rootField, "@C");
     EXPECT_TRUE((w.State().*row.page->yearsField).empty());
@@ -358,7 +358,7 @@ TEST(SznFuturesPages, APageStartsOnceSoALaterCountOfChartYearsIsAskedForAtNext) 
   w.State().SelYearIndexes = {0, 1};
   w.State().SelYears = {2026, 2025};
   ASSERT_TRUE(w.Wizard().PressNext());
-  ASSERT_EQ(w.Current(), IDD_SZN_FUT1);
+  ASSERT_EQ(w.CurrentDialog(), IDD_SZN_FUT1);
   EXPECT_EQ(c.GetDlgItemTextA(IDC_SZN_FUT1_ROOT, 256), "QCL") << "what the user left";
   EXPECT_EQ(SelectedTexts(c, IDC_SZN_FUT1_YEARS), (std::vector<std::string>{"2026", "2025", "2020"}));
   EXPECT_FALSE(w.Wizard().PressNext());

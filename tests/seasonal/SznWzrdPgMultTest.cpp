@@ -134,7 +134,7 @@ TEST(SznMultipliersPage, BackStoresTheMultipliersAndLeadsByTheForm) {
     c.TypeText(IDC_SZN_MULT_1, "-7");
     c.TypeText(IDC_SZN_MULT_2, "0.25");
     ASSERT_TRUE(w.Wizard().PressBack());
-    EXPECT_EQ(w.Current(), row.back);
+    EXPECT_EQ(w.CurrentDialog(), row.back);
     EXPECT_EQ(w.State().Multiplier1, -7.0);
     EXPECT_EQ(w.State().Multiplier2, 0.25);
     EXPECT_TRUE(w.State().Labels.empty());
@@ -156,7 +156,7 @@ TEST(SznMultipliersPage, BackWithAFieldThatDoesNotReadStoresAndStays) {
   EXPECT_EQ(w.State().Multiplier1, 2.0);
   EXPECT_EQ(w.State().Multiplier2, 9.0);
   EXPECT_FALSE(w.Wizard().PressBack());
-  EXPECT_EQ(w.Current(), IDD_SZN_MULT);
+  EXPECT_EQ(w.CurrentDialog(), IDD_SZN_MULT);
   EXPECT_TRUE(c.MessageBoxes().empty());
   EXPECT_EQ(c.FocusHistory().back(), IDC_SZN_MULT_2);
 }

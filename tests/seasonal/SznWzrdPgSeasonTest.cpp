@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "SznWizardRun.h"
+#include "SznPageDriver.h"
 #include "format/DateObject.h"
 #include "seasonal/SznTables.h"
 
@@ -13,7 +13,7 @@ namespace {
 using orv::seasonal::MakeSeasonDate;
 using orv::seasonal::SeasonDate;
 using szntest::FirstRunState;
-using szntest::WizardRun;
+using szntest::SznPages;
 
 void ExpectDate(const SeasonDate& date, int year, int month, int day) {
   const SeasonDate expected = MakeSeasonDate(year, month, day);
@@ -22,7 +22,7 @@ void ExpectDate(const SeasonDate& date, int year, int month, int day) {
 }
 
 TEST(SznWzrdPgSeason, StartsWithBothMonthListsAndTheYearOfTheSeason) {
-  WizardRun run(FirstRunState(2000));
+  SznPages run(FirstRunState(2000));
   run.State().Start = MakeSeasonDate(2000, 3, 1);
   run.State().End = MakeSeasonDate(2000, 8, 31);
   run.Start(IDD_SZN_SEASON);
@@ -58,7 +58,7 @@ TEST(SznWzrdPgSeason, EachPickStoresTheDatesAndShowsThePreview) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.preview);
-    WizardRun run(FirstRunState(row.year));
+    SznPages run(FirstRunState(row.year));
     run.Start(IDD_SZN_SEASON);
     orv::FakeControls& c = run.Current();
     c.SelectComboItem(IDC_SZN_SEASON_START, row.startMonth - 1);
@@ -75,7 +75,7 @@ TEST(SznWzrdPgSeason, EachPickStoresTheDatesAndShowsThePreview) {
 // Becoming active stores the months the lists show: an End of another year or day is brought to
 // the year of Start and the end of its month.
 TEST(SznWzrdPgSeason, BecomingActiveStoresTheDates) {
-  WizardRun run(FirstRunState(2000));
+  SznPages run(FirstRunState(2000));
   run.State().Start = MakeSeasonDate(2000, 11, 17);
   run.State().End = MakeSeasonDate(2001, 2, 3);
   run.Start(IDD_SZN_SEASON);
@@ -87,7 +87,7 @@ TEST(SznWzrdPgSeason, BecomingActiveStoresTheDates) {
 // A Start that is no date has year -1: no month is selected, and the stored dates (month 1, year
 // -1) can't be made either.
 TEST(SznWzrdPgSeason, AStartThatIsNoDateShowsYearMinusOne) {
-  WizardRun run(FirstRunState(2000));
+  SznPages run(FirstRunState(2000));
   run.State().Start.status = orv::seasonal::kDateInvalid;
   run.Start(IDD_SZN_SEASON);
   orv::FakeControls& c = run.Current();
@@ -99,7 +99,7 @@ TEST(SznWzrdPgSeason, AStartThatIsNoDateShowsYearMinusOne) {
   EXPECT_EQ(c.Control(IDC_SZN_SEASON_PREVIEW).text, invalid + " - " + invalid);
 }
 TEST(SznWzrdPgSeason, BackKeepsTheUsersMonthsAndStoresThemAgain) {
-  WizardRun run(FirstRunState(2000));
+  SznPages run(FirstRunState(2000));
   run.Start(IDD_SZN_SEASON);
   run.Current().SelectComboItem(IDC_SZN_SEASON_START, 10);
   run.Current().SelectComboItem(IDC_SZN_SEASON_END, 1);

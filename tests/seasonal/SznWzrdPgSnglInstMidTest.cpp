@@ -4,12 +4,12 @@
 
 #include <string>
 
-#include "SznWizardRun.h"
+#include "SznPageDriver.h"
 
 namespace {
 
 using szntest::FirstRunState;
-using szntest::WizardRun;
+using szntest::SznPages;
 
 orv::seasonal::WizardSeasonState CashFuturesState() {
   auto state = FirstRunState();
@@ -27,7 +27,7 @@ TEST(SznWzrdPgSnglInstMid, NextTakesTheSymbolOrRefusesAnEmptyOne) {
   };
   for (const Row& row : {Row{"CASH.X", true}, Row{" ", true}, Row{"", false}}) {
     SCOPED_TRACE(row.typed);
-    WizardRun run(CashFuturesState());
+    SznPages run(CashFuturesState());
     run.Start(IDD_SZN_SNGLINSTMID);
     orv::FakeControls& c = run.Current();
     c.TypeText(IDC_SZN_SNGLINSTMID_SYMBOL, row.typed);
@@ -46,7 +46,7 @@ TEST(SznWzrdPgSnglInstMid, NextTakesTheSymbolOrRefusesAnEmptyOne) {
 }
 
 TEST(SznWzrdPgSnglInstMid, BackStoresNothing) {
-  WizardRun run(CashFuturesState());
+  SznPages run(CashFuturesState());
   run.Start(IDD_SZN_SNGLINSTMID);
   run.Current().TypeText(IDC_SZN_SNGLINSTMID_SYMBOL, "XYZ");
   ASSERT_TRUE(run.Wizard().PressBack());

@@ -5,12 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "SznWizardRun.h"
+#include "SznPageDriver.h"
 
 namespace {
 
 using szntest::FirstRunState;
-using szntest::WizardRun;
+using szntest::SznPages;
 using Texts = std::vector<std::string>;
 
 // Finish stores the symbol and builds one label a chart year, or one label only when the host
@@ -35,7 +35,7 @@ TEST(SznWzrdPgSnglInst, FinishTakesTheSymbolAndBuildsTheLabels) {
     state.YearEnterMode = row.yearEnterMode;
     state.SelYears = {2024, 2023, 2022};
     state.Labels = {"old"};
-    WizardRun run(state);
+    SznPages run(state);
     run.Start(IDD_SZN_SNGLINST);
     run.Current().TypeText(IDC_SZN_SNGLINST_SYMBOL, row.typed);
     EXPECT_TRUE(run.Wizard().PressFinish());
@@ -51,7 +51,7 @@ TEST(SznWzrdPgSnglInst, FinishRefusesAnEmptySymbol) {
   auto state = FirstRunState();
   state.SelYears = {2024};
   state.Labels = {"old"};
-  WizardRun run(state);
+  SznPages run(state);
   run.Start(IDD_SZN_SNGLINST);
   orv::FakeControls& c = run.Current();
   c.TypeText(IDC_SZN_SNGLINST_SYMBOL, "");
@@ -72,7 +72,7 @@ TEST(SznWzrdPgSnglInst, BackFollowsTheWayYearsAreGivenAndStoresNothing) {
     SCOPED_TRACE(row.yearEnterMode);
     auto state = FirstRunState();
     state.YearEnterMode = row.yearEnterMode;
-    WizardRun run(state);
+    SznPages run(state);
     run.Start(IDD_SZN_SNGLINST);
     run.Current().TypeText(IDC_SZN_SNGLINST_SYMBOL, "IBM");
     ASSERT_TRUE(run.Wizard().PressBack());

@@ -5,17 +5,17 @@
 #include <string>
 #include <vector>
 
-#include "SznWizardRun.h"
+#include "SznPageDriver.h"
 #include "dlgkit/fake/FakeHostServices.h"
 
 namespace {
 
 using szntest::FirstRunState;
-using szntest::WizardRun;
+using szntest::SznPages;
 using Ints = std::vector<int>;
 
 TEST(SznWzrdPgYears, ListsFiftyYearsFromTheCurrentOneDown) {
-  WizardRun run(FirstRunState(), 2026);
+  SznPages run(FirstRunState(), 2026);
   run.Start(IDD_SZN_YEARS);
   orv::FakeControls& c = run.Current();
   ASSERT_EQ(c.ListGetCount(IDC_SZN_YEARS_LIST), 50);
@@ -27,7 +27,7 @@ TEST(SznWzrdPgYears, ListsFiftyYearsFromTheCurrentOneDown) {
 
 // The host's clock correction (setting 40, in seconds) moves the current year.
 TEST(SznWzrdPgYears, TheCurrentYearTakesTheHostsClockCorrection) {
-  WizardRun run(FirstRunState(), 2026);
+  SznPages run(FirstRunState(), 2026);
   orv::FakeHostServices host;
   host.ExpectValue("Settings", "40", std::to_string(200LL * 86400));
   host.ExpectNoTheme();  // then the page's children are themed
@@ -56,7 +56,7 @@ TEST(SznWzrdPgYears, StartsFromTheKeptIndexesOrTheThreeMostRecentYears) {
     SCOPED_TRACE(row.name);
     auto state = FirstRunState();
     state.SelYearIndexes = row.indexes;
-    WizardRun run(state);
+    SznPages run(state);
     run.Start(IDD_SZN_YEARS);
     EXPECT_EQ(run.Current().ListGetSelItems(IDC_SZN_YEARS_LIST), row.selected);
     EXPECT_EQ(run.Current().Control(IDC_SZN_YEARS_COUNT).text, row.total);
@@ -64,7 +64,7 @@ TEST(SznWzrdPgYears, StartsFromTheKeptIndexesOrTheThreeMostRecentYears) {
 }
 
 TEST(SznWzrdPgYears, TheCountFollowsEachChange) {
-  WizardRun run;
+  SznPages run;
   run.Start(IDD_SZN_YEARS);
   orv::FakeControls& c = run.Current();
   const struct {
@@ -81,7 +81,7 @@ TEST(SznWzrdPgYears, NextStoresTheSelectedRowsAndTheirYearsInListOrder) {
   auto state = FirstRunState();
   state.SelYears = {1990};
   state.SelYearIndexes = {3};
-  WizardRun run(state, 2026);
+  SznPages run(state, 2026);
   run.Start(IDD_SZN_YEARS);
   orv::FakeControls& c = run.Current();
   c.ToggleListItem(IDC_SZN_YEARS_LIST, 10);
@@ -94,7 +94,7 @@ TEST(SznWzrdPgYears, NextStoresTheSelectedRowsAndTheirYearsInListOrder) {
 
 // The refusal empties both lists before it says so.
 TEST(SznWzrdPgYears, NextWithoutAYearRefuses) {
-  WizardRun run;
+  SznPages run;
   run.Start(IDD_SZN_YEARS);
   orv::FakeControls& c = run.Current();
   for (int row : {0, 1, 2}) c.ToggleListItem(IDC_SZN_YEARS_LIST, row);
@@ -108,7 +108,7 @@ TEST(SznWzrdPgYears, NextWithoutAYearRefuses) {
 }
 
 TEST(SznWzrdPgYears, BackStoresNothing) {
-  WizardRun run;
+  SznPages run;
   run.Start(IDD_SZN_YEARS);
   run.Current().ToggleListItem(IDC_SZN_YEARS_LIST, 6);
   ASSERT_TRUE(run.Wizard().PressBack());

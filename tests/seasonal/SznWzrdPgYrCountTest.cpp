@@ -3,12 +3,12 @@
 
 #include <string>
 
-#include "SznWizardRun.h"
+#include "SznPageDriver.h"
 
 namespace {
 
 using szntest::FirstRunState;
-using szntest::WizardRun;
+using szntest::SznPages;
 
 orv::seasonal::WizardSeasonState CountState(int yearsBack, int formSel) {
   auto state = FirstRunState();
@@ -21,7 +21,7 @@ orv::seasonal::WizardSeasonState CountState(int yearsBack, int formSel) {
 TEST(SznWzrdPgYrCount, ShowsTheYearsBackAsASignedNumber) {
   for (int yearsBack : {5, 1, 99, 250, -1}) {
     SCOPED_TRACE(yearsBack);
-    WizardRun run(CountState(yearsBack, 0));
+    SznPages run(CountState(yearsBack, 0));
     run.Start(IDD_SZN_YRCOUNT);
     EXPECT_EQ(run.Current().Control(IDC_SZN_YRCOUNT_COUNT).text, std::to_string(yearsBack));
   }
@@ -46,7 +46,7 @@ TEST(SznWzrdPgYrCount, NextTakesOneToNinetyNineAndTheSingleInstrumentForm) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.typed);
-    WizardRun run(CountState(7, 3));
+    SznPages run(CountState(7, 3));
     run.Start(IDD_SZN_YRCOUNT);
     orv::FakeControls& c = run.Current();
     c.TypeText(IDC_SZN_YRCOUNT_COUNT, row.typed);
@@ -74,7 +74,7 @@ TEST(SznWzrdPgYrCount, NextTakesOneToNinetyNineAndTheSingleInstrumentForm) {
 }
 
 TEST(SznWzrdPgYrCount, BackStoresNothing) {
-  WizardRun run(CountState(12, 2));
+  SznPages run(CountState(12, 2));
   run.Start(IDD_SZN_YRCOUNT);
   run.Current().TypeText(IDC_SZN_YRCOUNT_COUNT, "30");
   ASSERT_TRUE(run.Wizard().PressBack());

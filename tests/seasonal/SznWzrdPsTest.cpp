@@ -11,7 +11,6 @@
 
 #include "SznSheetRun.h"
 #include "SznPageDriver.h"
-#include "SznWizardRun.h"
 #include "dlgkit/Page.h"
 #include "dlgkit/fake/FakeHostServices.h"
 #include "seasonal/SznPageTable.h"
