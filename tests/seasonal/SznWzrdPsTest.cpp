@@ -1,7 +1,7 @@
 // The seasonal wizard as a host meets it: a request with the twelve pages, a user who walks each
 // contract form from the first page to Finish, and the document that comes back, compared whole;
-// where Back leads from every page; Cancel; and a second run that starts from the first one's
-// history.
+// where Back leads from every page; Cancel; a second run that starts from the first one's
+// history; and what every page shows at its start (its buttons, its help).
 
 #include <gtest/gtest.h>
 
