@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -192,59 +191,21 @@ TEST(SznFuturesPages, TheCountFollowsEachChangeOfSelection) {
 
 struct Check {
   const char* what;
-  std::function<void(FakeControls&, const FutPage&)> user;
+  const char* root;             // typed over the root, and the month set to May
+  std::vector<int> toggled;     // rows clicked in the years list
   const char* message;          // "" when the checks pass
   bool yearsKept;               // the page's years in the state stay as they were
   std::vector<int> yearsAfter;  // else what they are afterwards
 };
 
-// The user's steps on a page that opened with the chart years 2026, 2025, 2020 selected.
+// On a page that opened with the chart years 2026, 2025, 2020 (rows 10, 11, 16) selected.
 const Check kChecks[] = {
-    {"an empty root",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "");
-       c.SelectComboItem(p.month, 4);
-     },
-     "Error Empty Root Symbol",
-     true,
-     {}},
-    {"no year",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "QHO");
-       c.SelectComboItem(p.month, 4);
-       for (int row : c.ListGetSelItems(p.years)) c.ToggleListItem(p.years, row);
-     },
-     "Must select at least one year",
-     false,
-     {}},
-    {"fewer years than chart years",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "QHO");
-       c.SelectComboItem(p.month, 4);
-       c.ToggleListItem(p.years, 10);
-     },
-     "Error must select 3 contract years",
-     false,
-     {}},
-    {"more years than chart years",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "QHO");
-       c.SelectComboItem(p.month, 4);
-       c.ToggleListItem(p.years, 0);
-     },
-     "Error must select 3 contract years",
-     false,
-     {}},
-    {"as many years: stored in list order",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "QHO");
-       c.SelectComboItem(p.month, 4);
-       c.ToggleListItem(p.years, 16);  // 2020 off
-       c.ToggleListItem(p.years, 2);   // 2034 on, above the others
-     },
-     "",
-     false,
-     {2034, 2026, 2025}},
+    {"an empty root", "", {}, "Error Empty Root Symbol", true, {}},
+    {"no year", "QHO", {10, 11, 16}, "Must select at least one year", false, {}},
+    {"fewer years than chart years", "QHO", {10}, "Error must select 3 contract years", false, {}},
+    {"more years than chart years", "QHO", {0}, "Error must select 3 contract years", false, {}},
+    // 2020 off, 2034 on above the others.
+    {"as many years: stored in list order", "QHO", {16, 2}, "", false, {2034, 2026, 2025}},
 };
 
 TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
@@ -261,7 +222,9 @@ TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
       w.State().*page->yearsField = yearsBefore;
       w.Start(page->dialogId);
       FakeControls& c = w.Controls(page->dialogId);
-      check.user(c, *page);
+      c.TypeText(page->root, check.root);
+      c.SelectComboItem(page->month, 4);
+      for (int row : check.toggled) c.ToggleListItem(page->years, row);
 
       const bool passed = PressChecks(w, *page);
       const WizardSeasonState& s = w.State();
