@@ -462,10 +462,14 @@ TEST(SznWizard, EveryPageStartsWithItsButtonsAndItsHelp) {
     for (unsigned button : {orv::kWizBack, orv::kWizNext, orv::kWizFinish})
       EXPECT_EQ(pages.Wizard().IsWizardButtonEnabled(button), (row.buttons & button) != 0) << "button " << button;
     orv::FakeControls& c = pages.Controls(row.dialogId);
-    if (row.help != 0) EXPECT_EQ(c.GetDlgItemTextA(row.help, 4096), row.text);
+    if (row.help != 0) {
+      EXPECT_EQ(c.GetDlgItemTextA(row.help, 4096), row.text);
+    }
     for (int lookup : {IDC_SZN_SNGLINST_LOOKUP, IDC_SZN_SNGLINSTMID_LOOKUP, IDC_SZN_CASHSPRD_LOOKUP1,
                        IDC_SZN_CASHSPRD_LOOKUP2, IDC_SZN_FUT1_LOOKUP, IDC_SZN_FUT2_LOOKUP, IDC_SZN_SNGLROOT_LOOKUP}) {
-      if (c.HasDlgItem(lookup)) EXPECT_FALSE(c.IsDlgItemVisible(lookup)) << "lookup " << lookup;
+      if (c.HasDlgItem(lookup)) {
+        EXPECT_FALSE(c.IsDlgItemVisible(lookup)) << "lookup " << lookup;
+      }
     }
   }
 }
