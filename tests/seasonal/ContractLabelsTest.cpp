@@ -19,8 +19,8 @@ struct LabelCase {
   std::vector<int> selYears;
   int month1, month2;
   std::vector<int> years1, years2;
-  double multiplier1, multiplier2;
   Strings labels;
+  double multiplier1 = 1.0, multiplier2 = 1.0;
 };
 
 WizardSeasonState StateOf(const LabelCase& c) {
@@ -45,97 +45,22 @@ WizardSeasonState StateOf(const LabelCase& c) {
 TEST(ContractLabels, OneTextForEachChartYearByTheForm) {
   const std::vector<int> three = {2026, 2025, 2024};
   const LabelCase cases[] = {
-      {"single instrument, years from a list", 0, 0, three, 0, 0, {}, {}, 2.0, 3.0, {"MSFT", "MSFT", "MSFT"}},
-      {"single instrument, one contract", 0, 1, three, 0, 0, {}, {}, 1.0, 1.0, {"MSFT"}},
-      {"single instrument, a count of years", 0, 2, three, 0, 0, {}, {}, 1.0, 1.0, {}},
-      {"single instrument, no years", 0, 0, {}, 0, 0, {}, {}, 1.0, 1.0, {}},
-      {"single root futures: year in full between root and letter",
-       1,
-       0,
-       {2007},
-       2,
-       0,
-       {2007},
-       {},
-       1.0,
-       1.0,
-       {"@C2007H"}},
-      {"single root futures: no multiplier text", 1, 0, {1, 2}, 11, 0, {2027, 5}, {}, 2.5, 1.0, {"@C2027Z", "@C0005Z"}},
-      {"single root futures: month below 0 is F, past Z is none", 1, 0, {1}, -4, 0, {2026}, {}, 1.0, 1.0, {"@C2026F"}},
-      {"single root futures: month 12 has no letter", 1, 0, {1}, 12, 0, {2026}, {}, 1.0, 1.0, {"@C2026"}},
-      {"single root futures: a short year list reads 0",
-       1,
-       0,
-       three,
-       6,
-       0,
-       {2026},
-       {},
-       1.0,
-       1.0,
-       {"@C2026N", "@C0000N", "@C0000N"}},
-      {"cash spread: the same text each year",
-       2,
-       0,
-       three,
-       0,
-       0,
-       {},
-       {},
-       1.0,
-       1.0,
-       {"MSFT - INDU.X", "MSFT - INDU.X", "MSFT - INDU.X"}},
-      {"cash spread: a multiplier in front of its leg", 2, 0, {2026}, 0, 0, {}, {}, 2.5, 1.0, {"2.50 * MSFT - INDU.X"}},
-      {"cash spread: both multipliers, rounded, negative and zero",
-       2,
-       0,
-       {2026, 2025},
-       0,
-       0,
-       {},
-       {},
-       -0.126,
-       0.0,
-       {"-0.13 * MSFT - 0.00 * INDU.X", "-0.13 * MSFT - 0.00 * INDU.X"}},
-      {"futures spread",
-       3,
-       0,
-       {2026, 2025},
-       2,
-       4,
-       {2027, 2026},
-       {2026, 2025},
-       1.0,
-       0.5,
-       {"@C2027H - 0.50 * @S2026K", "@C2026H - 0.50 * @S2025K"}},
-      {"futures spread: short lists read 0",
-       3,
-       0,
-       {2026, 2025},
-       0,
-       11,
-       {2027},
-       {},
-       1.0,
-       1.0,
-       {"@C2027F - @S0000Z", "@C0000F - @S0000Z"}},
-      {"cash futures spread",
-       4,
-       0,
-       {2026, 2025},
-       0,
-       9,
-       {},
-       {2026, 2025},
-       1.5,
-       1.0,
-       {"1.50 * MSFT - @S2026V", "1.50 * MSFT - @S2025V"}},
-      {"no years: no labels for form 1", 1, 0, {}, 0, 0, {2026}, {}, 1.0, 1.0, {}},
-      {"no years: no labels for form 2", 2, 0, {}, 0, 0, {}, {}, 1.0, 1.0, {}},
-      {"no years: no labels for form 3", 3, 0, {}, 0, 0, {2026}, {2026}, 1.0, 1.0, {}},
-      {"no years: no labels for form 4", 4, 0, {}, 0, 0, {}, {2026}, 1.0, 1.0, {}},
-      {"unknown form", 5, 0, three, 0, 0, {}, {}, 1.0, 1.0, {}},
-      {"no form", -1, 0, three, 0, 0, {}, {}, 1.0, 1.0, {}},
+      {"single instrument, years from a list", 0, 0, three, 0, 0, {}, {}, {"MSFT", "MSFT", "MSFT"}, 2.0, 3.0},
+      {"single instrument, one contract", 0, 1, three, 0, 0, {}, {}, {"MSFT"}},
+      {"single instrument, a count of years", 0, 2, three, 0, 0, {}, {}, {}},
+      {"single instrument, no years", 0, 0, {}, 0, 0, {}, {}, {}},
+      {"single root futures: no multiplier text", 1, 0, {1, 2}, 11, 0, {2027, 5}, {}, {"@C2027Z", "@C0005Z"}, 2.5},
+      {"single root futures: month below 0 is F, past Z is none", 1, 0, {1}, -4, 0, {2026}, {}, {"@C2026F"}},
+      {"single root futures: month 12 has no letter", 1, 0, {1}, 12, 0, {2026}, {}, {"@C2026"}},
+      {"single root futures: a short year list reads 0", 1, 0, {1, 2}, 6, 0, {2026}, {}, {"@C2026N", "@C0000N"}},
+      {"cash spread: multipliers rounded", 2, 0, {1}, 0, 0, {}, {}, {"-0.13 * MSFT - 0.00 * INDU.X"}, -0.126, 0.0},
+      {"futures: short lists read 0", 3, 0, {1, 2}, 0, 11, {2027}, {}, {"@C2027F - @S0000Z", "@C0000F - @S0000Z"}},
+      {"no years: no labels for form 1", 1, 0, {}, 0, 0, {2026}, {}, {}},
+      {"no years: no labels for form 2", 2, 0, {}, 0, 0, {}, {}, {}},
+      {"no years: no labels for form 3", 3, 0, {}, 0, 0, {2026}, {2026}, {}},
+      {"no years: no labels for form 4", 4, 0, {}, 0, 0, {}, {2026}, {}},
+      {"unknown form", 5, 0, three, 0, 0, {}, {}, {}},
+      {"no form", -1, 0, three, 0, 0, {}, {}, {}},
   };
   for (const LabelCase& c : cases) {
     WizardSeasonState state = StateOf(c);
@@ -145,7 +70,7 @@ TEST(ContractLabels, OneTextForEachChartYearByTheForm) {
 }
 
 TEST(ContractLabels, ShortYearListsAreGrownWithZerosUpToTheIndexRead) {
-  WizardSeasonState state = StateOf({"", 3, 0, {2026, 2025, 2024}, 0, 0, {2027}, {}, 1.0, 1.0, {}});
+  WizardSeasonState state = StateOf({"", 3, 0, {2026, 2025, 2024}, 0, 0, {2027}, {}, {}});
   BuildContractLabels(state);
   EXPECT_EQ(state.Years1, (std::vector<int>{2027, 0, 0}));
   EXPECT_EQ(state.Years2, (std::vector<int>{0, 0, 0}));

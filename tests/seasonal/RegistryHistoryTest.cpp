@@ -44,14 +44,6 @@ TEST(RegistryHistory, LoadSkipsEmptyAndRepeatedValuesAndStopsAtTheLimit) {
   EXPECT_EQ(history.Entries(), (Strings{"Corn", "Wheat", "Oats"}));
 }
 
-TEST(RegistryHistory, LoadOfAMissingKeyIsEmpty) {
-  MemorySettingsStore store;
-  store.WriteString("Software\\Other", "Hist_1", "Corn");
-  RegistryHistory history(store, kKey, "Hist_%d", 20);
-  history.Load();
-  EXPECT_TRUE(history.Entries().empty());
-}
-
 TEST(RegistryHistory, AddPutsTheTextInFrontWithoutRepeatsAndDropsTheOldest) {
   struct Row {
     const char* name;
@@ -98,19 +90,6 @@ TEST(RegistryHistory, SaveWritesFromOneAndDeletesTheRestUpToTheLimit) {
   empty.Save();
   EXPECT_EQ(ValuesOf(store, kKey),
             (std::map<std::string, std::string>{{"H6", "s:beyond the limit"}, {"Other", "s:kept"}}));
-}
-
-TEST(RegistryHistory, KeepsTwentyOfTwentyFive) {
-  MemorySettingsStore store;
-  RegistryHistory history(store, kKey, "Snl3WizSymbol_%d", kHistoryLimit);
-  for (int i = 1; i <= 25; ++i) history.Add("S" + std::to_string(i));
-  history.Save();
-  RegistryHistory again(store, kKey, "Snl3WizSymbol_%d", kHistoryLimit);
-  again.Load();
-  ASSERT_EQ(again.Entries().size(), 20u);
-  EXPECT_EQ(again.Entries().front(), "S25");
-  EXPECT_EQ(again.Entries().back(), "S6");
-  EXPECT_FALSE(store.ReadString(kKey, "Snl3WizSymbol_21"));
 }
 
 TEST(SplitText, SplitsAtTheWholeSeparator) {

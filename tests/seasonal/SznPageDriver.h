@@ -1,8 +1,8 @@
 #pragma once
 // The seasonal wizard's pages on the headless wizard, without the sheet: all twelve page objects
 // in the order of the page table, each laid out from its dialog template (SznTemplates.h), over
-// one wizard state that a test sets up before the start. The current year comes from a fixed
-// clock, and no host is there (no theme, no clock correction).
+// one wizard state that a test sets up before the start (as reset, or a first run's). The current
+// year comes from a fixed clock, and no host is there (no theme, no clock correction).
 
 #include <memory>
 #include <span>
@@ -11,6 +11,7 @@
 #include "SznTemplates.h"
 #include "dlgkit/Clock.h"
 #include "dlgkit/HostServices.h"
+#include "dlgkit/MessageBox.h"
 #include "dlgkit/fake/ControlsFake.h"
 #include "dlgkit/fake/HeadlessRunner.h"
 #include "dlgkit/fake/TemplateLayout.h"
@@ -38,9 +39,26 @@ inline void LayOut(int dialogId, orv::FakeControls& controls, int withoutId = 0)
   orv::AddTemplateControls(copy, controls);
 }
 
+// What a first run starts from once the wizard has read its sources: the season of `year`,
+// years from a list, the first form, the default symbols, roots and months.
+inline orv::seasonal::WizardSeasonState FirstRunState(int year = 2000) {
+  orv::seasonal::WizardSeasonState state;
+  state.Start = orv::seasonal::MakeSeasonDate(year, 1, 1);
+  state.End = orv::seasonal::MakeSeasonDate(year, 12, 31);
+  state.YearEnterMode = 0;
+  state.YearsBack = 5;
+  state.FormSel = 0;
+  state.Root1 = "@C";
+  state.Root2 = "@S";
+  state.Month1 = state.Month2 = 0;
+  state.Symbol1 = "MSFT";
+  state.Symbol2 = "INDU.X";
+  return state;
+}
+
 class SznPages {
  public:
-  // The clock's year is the current year of the pages.
+  // The clock's year (15 June) is the current year of the pages; the state is as reset.
   explicit SznPages(int year = 2026) : clock_(orv::DateTime{year, 6, 15, 12, 0, 0}) {
     context_.clock = &clock_;
     context_.state.Reset();
@@ -48,6 +66,10 @@ class SznPages {
       pages_.push_back(orv::seasonal::MakeSznPage(i, context_));
       controls_.push_back(std::make_unique<orv::FakeControls>());
     }
+  }
+  // The pages over `state`.
+  explicit SznPages(orv::seasonal::WizardSeasonState state, int year = 2026) : SznPages(year) {
+    context_.state = std::move(state);
   }
 
   orv::seasonal::WizardSeasonState& State() { return context_.state; }
@@ -70,8 +92,11 @@ class SznPages {
   }
 
   orv::HeadlessRunner& Wizard() { return runner_; }
-  // The dialog id of the page the wizard shows.
-  int Current() const { return orv::seasonal::kSznPages[static_cast<std::size_t>(runner_.CurrentPage())].dialogId; }
+  // The dialog id of the page the wizard shows, and its controls.
+  int CurrentDialog() const {
+    return orv::seasonal::kSznPages[static_cast<std::size_t>(runner_.CurrentPage())].dialogId;
+  }
+  orv::FakeControls& Current() { return Controls(CurrentDialog()); }
   orv::FakeControls& Controls(int dialogId) { return *controls_[static_cast<std::size_t>(IndexOf(dialogId))]; }
   orv::Page& PageOf(int dialogId) { return pages_[static_cast<std::size_t>(IndexOf(dialogId))]->AsPage(); }
 

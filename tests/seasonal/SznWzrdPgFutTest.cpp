@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,42 +23,28 @@ using szntest::SznPages;
 struct FutPage {
   const char* name;
   int dialogId;
-  int title, help, root, month, years, count, lookup;
-  const char* titleText;
+  int root, month, years, count;
   std::string WizardSeasonState::*rootField;
   int WizardSeasonState::*monthField;
   std::vector<int> WizardSeasonState::*yearsField;
   bool singleRoot;  // checks at Finish
 };
 
-const FutPage kFut1{"First Futures",
-                    IDD_SZN_FUT1,
-                    IDC_SZN_FUT1_TITLE,
-                    IDC_SZN_FUT1_HELP,
-                    IDC_SZN_FUT1_ROOT,
-                    IDC_SZN_FUT1_MONTH,
-                    IDC_SZN_FUT1_YEARS,
-                    IDC_SZN_FUT1_COUNT,
-                    IDC_SZN_FUT1_LOOKUP,
-                    "Select first set of futures contracts",
-                    &WizardSeasonState::Root1,
-                    &WizardSeasonState::Month1,
-                    &WizardSeasonState::Years1,
-                    false};
-const FutPage kFut2{"Second Futures",           IDD_SZN_FUT2,
-                    IDC_SZN_FUT2_TITLE,         IDC_SZN_FUT2_HELP,
-                    IDC_SZN_FUT2_ROOT,          IDC_SZN_FUT2_MONTH,
-                    IDC_SZN_FUT2_YEARS,         IDC_SZN_FUT2_COUNT,
-                    IDC_SZN_FUT2_LOOKUP,        "Second set of futures contracts",
-                    &WizardSeasonState::Root2,  &WizardSeasonState::Month2,
-                    &WizardSeasonState::Years2, false};
-const FutPage kSnglRoot{"Single Root Futures",      IDD_SZN_SNGLROOTFUT,
-                        IDC_SZN_SNGLROOT_TITLE,     IDC_SZN_SNGLROOT_HELP,
-                        IDC_SZN_SNGLROOT_ROOT,      IDC_SZN_SNGLROOT_MONTH,
-                        IDC_SZN_SNGLROOT_YEARS,     IDC_SZN_SNGLROOT_COUNT,
-                        IDC_SZN_SNGLROOT_LOOKUP,    "Select Futures",
-                        &WizardSeasonState::Root1,  &WizardSeasonState::Month1,
-                        &WizardSeasonState::Years1, true};
+using S = WizardSeasonState;
+const FutPage kFut1{"First Futures",    IDD_SZN_FUT1, IDC_SZN_FUT1_ROOT, IDC_SZN_FUT1_MONTH, IDC_SZN_FUT1_YEARS,
+                    IDC_SZN_FUT1_COUNT, &S::Root1,    &S::Month1,        &S::Years1,         false};
+const FutPage kFut2{"Second Futures",   IDD_SZN_FUT2, IDC_SZN_FUT2_ROOT, IDC_SZN_FUT2_MONTH, IDC_SZN_FUT2_YEARS,
+                    IDC_SZN_FUT2_COUNT, &S::Root2,    &S::Month2,        &S::Years2,         false};
+const FutPage kSnglRoot{"Single Root Futures",
+                        IDD_SZN_SNGLROOTFUT,
+                        IDC_SZN_SNGLROOT_ROOT,
+                        IDC_SZN_SNGLROOT_MONTH,
+                        IDC_SZN_SNGLROOT_YEARS,
+                        IDC_SZN_SNGLROOT_COUNT,
+                        &S::Root1,
+                        &S::Month1,
+                        &S::Years1,
+                        true};
 const FutPage* const kFutPages[] = {&kFut1, &kFut2, &kSnglRoot};
 
 // Three chart years picked on the Years page in 2026: this year, the year before and 2020; the
@@ -97,10 +82,6 @@ TEST(SznFuturesPages, StartShowsTheRootFiftyYearsFromTenAheadTheMonthsAndTheCoun
     FakeControls& c = w.Controls(page->dialogId);
 
     EXPECT_EQ(c.GetDlgItemTextA(page->root, 256), "@W");
-    EXPECT_EQ(c.GetDlgItemTextA(page->title, 256), page->titleText);
-    EXPECT_FALSE(c.GetDlgItemTextA(page->help, 4096).empty());
-    EXPECT_TRUE(c.Control(page->help).readOnly);
-    EXPECT_FALSE(c.IsDlgItemVisible(page->lookup)) << "the lookup button stays hidden";
 
     const std::vector<std::string> years = Texts(c, page->years);
     ASSERT_EQ(years.size(), 50u);
@@ -210,59 +191,21 @@ TEST(SznFuturesPages, TheCountFollowsEachChangeOfSelection) {
 
 struct Check {
   const char* what;
-  std::function<void(FakeControls&, const FutPage&)> user;
+  const char* root;             // typed over the root, and the month set to May
+  std::vector<int> toggled;     // rows clicked in the years list
   const char* message;          // "" when the checks pass
   bool yearsKept;               // the page's years in the state stay as they were
   std::vector<int> yearsAfter;  // else what they are afterwards
 };
 
-// The user's steps on a page that opened with the chart years 2026, 2025, 2020 selected.
+// On a page that opened with the chart years 2026, 2025, 2020 (rows 10, 11, 16) selected.
 const Check kChecks[] = {
-    {"an empty root",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "");
-       c.SelectComboItem(p.month, 4);
-     },
-     "Error Empty Root Symbol",
-     true,
-     {}},
-    {"no year",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "QHO");
-       c.SelectComboItem(p.month, 4);
-       for (int row : c.ListGetSelItems(p.years)) c.ToggleListItem(p.years, row);
-     },
-     "Must select at least one year",
-     false,
-     {}},
-    {"fewer years than chart years",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "QHO");
-       c.SelectComboItem(p.month, 4);
-       c.ToggleListItem(p.years, 10);
-     },
-     "Error must select 3 contract years",
-     false,
-     {}},
-    {"more years than chart years",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "QHO");
-       c.SelectComboItem(p.month, 4);
-       c.ToggleListItem(p.years, 0);
-     },
-     "Error must select 3 contract years",
-     false,
-     {}},
-    {"as many years: stored in list order",
-     [](FakeControls& c, const FutPage& p) {
-       c.TypeText(p.root, "QHO");
-       c.SelectComboItem(p.month, 4);
-       c.ToggleListItem(p.years, 16);  // 2020 off
-       c.ToggleListItem(p.years, 2);   // 2034 on, above the others
-     },
-     "",
-     false,
-     {2034, 2026, 2025}},
+    {"an empty root", "", {}, "Error Empty Root Symbol", true, {}},
+    {"no year", "QHO", {10, 11, 16}, "Must select at least one year", false, {}},
+    {"fewer years than chart years", "QHO", {10}, "Error must select 3 contract years", false, {}},
+    {"more years than chart years", "QHO", {0}, "Error must select 3 contract years", false, {}},
+    // 2020 off, 2034 on above the others.
+    {"as many years: stored in list order", "QHO", {16, 2}, "", false, {2034, 2026, 2025}},
 };
 
 TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
@@ -279,7 +222,9 @@ TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
       w.State().*page->yearsField = yearsBefore;
       w.Start(page->dialogId);
       FakeControls& c = w.Controls(page->dialogId);
-      check.user(c, *page);
+      c.TypeText(page->root, check.root);
+      c.SelectComboItem(page->month, 4);
+      for (int row : check.toggled) c.ToggleListItem(page->years, row);
 
       const bool passed = PressChecks(w, *page);
       const WizardSeasonState& s = w.State();
@@ -293,7 +238,7 @@ TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
         EXPECT_EQ(c.MessageBoxes()[0].caption, "");
         EXPECT_EQ(c.MessageBoxes()[0].flags, 0u);
         EXPECT_TRUE(w.Wizard().IsRunning());
-        EXPECT_EQ(w.Current(), page->dialogId) << "the wizard stays on the page";
+        EXPECT_EQ(w.CurrentDialog(), page->dialogId) << "the wizard stays on the page";
         EXPECT_TRUE(s.Labels.empty());
       } else {
         EXPECT_TRUE(passed);
@@ -301,46 +246,6 @@ TEST(SznFuturesPages, TheChecksRefuseWithTheirTextAndStoreRootAndMonthFirst) {
         EXPECT_TRUE(c.Beeps().empty());
       }
     }
-  }
-}
-
-TEST(SznFuturesPages, PassingTheChecksLeadsOnOrFinishesWithTheLabels) {
-  {
-    SCOPED_TRACE("first futures: on to the second set");
-    SznPages w(2026);
-    PickChartYears(w.State());
-    w.State().FormSel = 3;
-    w.Start(IDD_SZN_FUT1);
-    ASSERT_TRUE(w.Wizard().PressNext());
-    EXPECT_EQ(w.Current(), IDD_SZN_FUT2);
-    EXPECT_EQ(w.State().Years1, (std::vector<int>{2026, 2025, 2020}));
-    EXPECT_TRUE(w.State().Labels.empty()) << "labels are built on the way to Finish only";
-    SCOPED_TRACE("second futures: on to the multipliers");
-    FakeControls& c = w.Controls(IDD_SZN_FUT2);
-    c.TypeText(IDC_SZN_FUT2_ROOT, "QHO");
-    c.SelectComboItem(IDC_SZN_FUT2_MONTH, 11);
-    ASSERT_TRUE(w.Wizard().PressNext());
-    EXPECT_EQ(w.Current(), IDD_SZN_MULT);
-    EXPECT_EQ(w.State().Root2, "QHO");
-    EXPECT_EQ(w.State().Month2, 11);
-    EXPECT_EQ(w.State().Years2, (std::vector<int>{2026, 2025, 2020}));
-  }
-  {
-    SCOPED_TRACE("single root futures: Finish");
-    SznPages w(2026);
-    PickChartYears(w.State());
-    w.State().FormSel = 1;
-    w.State().Years1 = {2027, 2026, 2025};
-    w.State().Multiplier1 = 2.0;  // no multiplier text for a single root
-    w.Start(IDD_SZN_SNGLROOTFUT);
-    FakeControls& c = w.Controls(IDD_SZN_SNGLROOTFUT);
-    EXPECT_TRUE(w.Wizard().IsWizardButtonEnabled(orv::kWizFinish));
-    EXPECT_FALSE(w.Wizard().IsWizardButtonEnabled(orv::kWizNext));
-    c.TypeText(IDC_SZN_SNGLROOT_ROOT, "QNG");
-    c.SelectComboItem(IDC_SZN_SNGLROOT_MONTH, 0);
-    ASSERT_TRUE(w.Wizard().PressFinish());
-    EXPECT_EQ(w.Wizard().Result(), 1);
-    EXPECT_EQ(w.State().Labels, (std::vector<std::string>{"QNG2027F", "QNG2026F", "QNG2025F"}));
   }
 }
 
@@ -370,37 +275,25 @@ TEST(SznFuturesPages, ARootThatCannotBeReadGoesOnUncheckedOrRefusesFinishSilentl
       EXPECT_TRUE(w.State().Labels.empty());
     } else {
       EXPECT_TRUE(passed);
-      EXPECT_EQ(w.Current(), page->dialogId == IDD_SZN_FUT1 ? IDD_SZN_FUT2 : IDD_SZN_MULT);
+      EXPECT_EQ(w.CurrentDialog(), page->dialogId == IDD_SZN_FUT1 ? IDD_SZN_FUT2 : IDD_SZN_MULT);
     }
   }
 }
 
-TEST(SznFuturesPages, BackLeadsByTheFormAndChangesNoState) {
-  struct Row {
-    const FutPage* page;
-    int formSel;
-    int back;
-  };
-  const Row rows[] = {
-      {&kFut1, 3, IDD_SZN_FORM},
-      {&kFut2, 3, IDD_SZN_FUT1},
-      {&kFut2, 4, IDD_SZN_SNGLINSTMID},
-      {&kSnglRoot, 1, IDD_SZN_FORM},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(std::string(row.page->name) + " form " + std::to_string(row.formSel));
+// Back checks nothing and stores nothing; where it leads is the wizard's Back table.
+TEST(SznFuturesPages, BackChangesNoState) {
+  for (const FutPage* page : kFutPages) {
+    SCOPED_TRACE(page->name);
     SznPages w;
     PickChartYears(w.State());
-    w.State().FormSel = row.formSel;
-    w.State().*row.page->rootField = "@C";
-    w.Start(row.page->dialogId);
-    FakeControls& c = w.Controls(row.page->dialogId);
-    c.TypeText(row.page->root, "");
+    w.State().FormSel = page->singleRoot ? 1 : 3;
+    w.Start(page->dialogId);
+    FakeControls& c = w.Controls(page->dialogId);
+    c.TypeText(page->root, "");
     ASSERT_TRUE(w.Wizard().PressBack());
-    EXPECT_EQ(w.Current(), row.back);
     EXPECT_TRUE(c.MessageBoxes().empty());
-    EXPECT_EQ(w.State().*row.page->rootField, "@C");
-    EXPECT_TRUE((w.State().*row.page->yearsField).empty());
+    EXPECT_EQ(w.State().*page->rootField, page == &kFut2 ? "@S" : "@C");
+    EXPECT_TRUE((w.State().*page->yearsField).empty());
   }
 }
 
@@ -416,7 +309,7 @@ TEST(SznFuturesPages, APageStartsOnceSoALaterCountOfChartYearsIsAskedForAtNext) 
   w.State().SelYearIndexes = {0, 1};
   w.State().SelYears = {2026, 2025};
   ASSERT_TRUE(w.Wizard().PressNext());
-  ASSERT_EQ(w.Current(), IDD_SZN_FUT1);
+  ASSERT_EQ(w.CurrentDialog(), IDD_SZN_FUT1);
   EXPECT_EQ(c.GetDlgItemTextA(IDC_SZN_FUT1_ROOT, 256), "QCL") << "what the user left";
   EXPECT_EQ(SelectedTexts(c, IDC_SZN_FUT1_YEARS), (std::vector<std::string>{"2026", "2025", "2020"}));
   EXPECT_FALSE(w.Wizard().PressNext());

@@ -1,10 +1,10 @@
 // The season page: its lists and texts at start, the dates it stores and the preview it shows as
-// the user picks months, where Next leads, and what it keeps when the user comes back.
+// the user picks months, and what it keeps when the user comes back.
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "SznWizardRun.h"
+#include "SznPageDriver.h"
 #include "format/DateObject.h"
 #include "seasonal/SznTables.h"
 
@@ -13,12 +13,7 @@ namespace {
 using orv::seasonal::MakeSeasonDate;
 using orv::seasonal::SeasonDate;
 using szntest::FirstRunState;
-using szntest::WizardRun;
-
-constexpr char kHelp[] =
-    "Select a starting and ending month to define a season.\r\n\r\n   A season is one to twelve months long,    "
-    "begins on the first day of the start month, and concludes on the last day of the end month.\r\n\r\n   "
-    "To define a season which spans midnight of new-years day, set the ending month prior to the beginning month.";
+using szntest::SznPages;
 
 void ExpectDate(const SeasonDate& date, int year, int month, int day) {
   const SeasonDate expected = MakeSeasonDate(year, month, day);
@@ -26,8 +21,8 @@ void ExpectDate(const SeasonDate& date, int year, int month, int day) {
   EXPECT_EQ(date.value, expected.value) << year << "-" << month << "-" << day;
 }
 
-TEST(SznWzrdPgSeason, StartsWithBothMonthListsTheHelpAndTheYearOfTheSeason) {
-  WizardRun run(FirstRunState(2000));
+TEST(SznWzrdPgSeason, StartsWithBothMonthListsAndTheYearOfTheSeason) {
+  SznPages run(FirstRunState(2000));
   run.State().Start = MakeSeasonDate(2000, 3, 1);
   run.State().End = MakeSeasonDate(2000, 8, 31);
   run.Start(IDD_SZN_SEASON);
@@ -42,12 +37,8 @@ TEST(SznWzrdPgSeason, StartsWithBothMonthListsTheHelpAndTheYearOfTheSeason) {
   EXPECT_EQ(c.ComboGetCurSel(IDC_SZN_SEASON_START), 2);
   EXPECT_EQ(c.ComboGetCurSel(IDC_SZN_SEASON_END), 7);
   EXPECT_EQ(c.GetFocus(), IDC_SZN_SEASON_START);
-  EXPECT_EQ(c.Control(IDC_SZN_SEASON_HELP).text, kHelp);
-  EXPECT_EQ(c.Control(IDC_SZN_SEASON_TITLE).text, "Choose Season");
   EXPECT_EQ(c.Control(IDC_SZN_SEASON_YEAR).text, "Season (for year 2000)");
   EXPECT_EQ(c.Control(IDC_SZN_SEASON_PREVIEW).text, "Mar/01/2000 - Aug/31/2000");
-  EXPECT_TRUE(run.Wizard().IsWizardButtonEnabled(orv::kWizNext));
-  EXPECT_FALSE(run.Wizard().IsWizardButtonEnabled(orv::kWizBack));
 }
 
 // The dates go to the state at each pick: the start on the 1st, the end on the last day of its
@@ -67,7 +58,7 @@ TEST(SznWzrdPgSeason, EachPickStoresTheDatesAndShowsThePreview) {
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.preview);
-    WizardRun run(FirstRunState(row.year));
+    SznPages run(FirstRunState(row.year));
     run.Start(IDD_SZN_SEASON);
     orv::FakeControls& c = run.Current();
     c.SelectComboItem(IDC_SZN_SEASON_START, row.startMonth - 1);
@@ -84,7 +75,7 @@ TEST(SznWzrdPgSeason, EachPickStoresTheDatesAndShowsThePreview) {
 // Becoming active stores the months the lists show: an End of another year or day is brought to
 // the year of Start and the end of its month.
 TEST(SznWzrdPgSeason, BecomingActiveStoresTheDates) {
-  WizardRun run(FirstRunState(2000));
+  SznPages run(FirstRunState(2000));
   run.State().Start = MakeSeasonDate(2000, 11, 17);
   run.State().End = MakeSeasonDate(2001, 2, 3);
   run.Start(IDD_SZN_SEASON);
@@ -96,7 +87,7 @@ TEST(SznWzrdPgSeason, BecomingActiveStoresTheDates) {
 // A Start that is no date has year -1: no month is selected, and the stored dates (month 1, year
 // -1) can't be made either.
 TEST(SznWzrdPgSeason, AStartThatIsNoDateShowsYearMinusOne) {
-  WizardRun run(FirstRunState(2000));
+  SznPages run(FirstRunState(2000));
   run.State().Start.status = orv::seasonal::kDateInvalid;
   run.Start(IDD_SZN_SEASON);
   orv::FakeControls& c = run.Current();
@@ -107,24 +98,8 @@ TEST(SznWzrdPgSeason, AStartThatIsNoDateShowsYearMinusOne) {
   const std::string invalid = orv::InvalidDateText();
   EXPECT_EQ(c.Control(IDC_SZN_SEASON_PREVIEW).text, invalid + " - " + invalid);
 }
-
-TEST(SznWzrdPgSeason, NextFollowsTheWayYearsAreGiven) {
-  struct Row {
-    int yearEnterMode, next;
-  };
-  for (const Row& row : {Row{0, IDD_SZN_YEARS}, Row{1, IDD_SZN_YRCOUNT}, Row{2, IDD_SZN_YRCOUNT}}) {
-    SCOPED_TRACE(row.yearEnterMode);
-    auto state = FirstRunState();
-    state.YearEnterMode = row.yearEnterMode;
-    WizardRun run(state);
-    run.Start(IDD_SZN_SEASON);
-    EXPECT_TRUE(run.Wizard().PressNext());
-    EXPECT_EQ(run.CurrentDialog(), row.next);
-  }
-}
-
 TEST(SznWzrdPgSeason, BackKeepsTheUsersMonthsAndStoresThemAgain) {
-  WizardRun run(FirstRunState(2000));
+  SznPages run(FirstRunState(2000));
   run.Start(IDD_SZN_SEASON);
   run.Current().SelectComboItem(IDC_SZN_SEASON_START, 10);
   run.Current().SelectComboItem(IDC_SZN_SEASON_END, 1);

@@ -5,33 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "SznWizardRun.h"
+#include "SznPageDriver.h"
 
 namespace {
 
 using szntest::FirstRunState;
-using szntest::WizardRun;
+using szntest::SznPages;
 using Texts = std::vector<std::string>;
-
-constexpr char kHelp[] =
-    "Enter a single contract symbol.\r\n\r\n   Orvane will split the historical data between different years by "
-    "season.";
-
-TEST(SznWzrdPgSnglInst, ShowsTheSymbolWithBackAndFinish) {
-  auto state = FirstRunState();
-  state.Symbol1 = "IBM";
-  WizardRun run(state);
-  run.Start(IDD_SZN_SNGLINST);
-  orv::FakeControls& c = run.Current();
-  EXPECT_EQ(c.Control(IDC_SZN_SNGLINST_SYMBOL).text, "IBM");
-  EXPECT_EQ(c.Control(IDC_SZN_SNGLINST_HELP).text, kHelp);
-  EXPECT_EQ(c.Control(IDC_SZN_SNGLINST_TITLE).text, "Enter Symbol");
-  EXPECT_EQ(c.Control(IDC_SZN_SNGLINST_LABEL).text, "Symbol:");
-  EXPECT_FALSE(c.IsDlgItemVisible(IDC_SZN_SNGLINST_LOOKUP));
-  EXPECT_TRUE(run.Wizard().IsWizardButtonEnabled(orv::kWizBack));
-  EXPECT_TRUE(run.Wizard().IsWizardButtonEnabled(orv::kWizFinish));
-  EXPECT_FALSE(run.Wizard().IsWizardButtonEnabled(orv::kWizNext));
-}
 
 // Finish stores the symbol and builds one label a chart year, or one label only when the host
 // asked for one contract.
@@ -55,7 +35,7 @@ TEST(SznWzrdPgSnglInst, FinishTakesTheSymbolAndBuildsTheLabels) {
     state.YearEnterMode = row.yearEnterMode;
     state.SelYears = {2024, 2023, 2022};
     state.Labels = {"old"};
-    WizardRun run(state);
+    SznPages run(state);
     run.Start(IDD_SZN_SNGLINST);
     run.Current().TypeText(IDC_SZN_SNGLINST_SYMBOL, row.typed);
     EXPECT_TRUE(run.Wizard().PressFinish());
@@ -71,7 +51,7 @@ TEST(SznWzrdPgSnglInst, FinishRefusesAnEmptySymbol) {
   auto state = FirstRunState();
   state.SelYears = {2024};
   state.Labels = {"old"};
-  WizardRun run(state);
+  SznPages run(state);
   run.Start(IDD_SZN_SNGLINST);
   orv::FakeControls& c = run.Current();
   c.TypeText(IDC_SZN_SNGLINST_SYMBOL, "");
@@ -92,36 +72,13 @@ TEST(SznWzrdPgSnglInst, BackFollowsTheWayYearsAreGivenAndStoresNothing) {
     SCOPED_TRACE(row.yearEnterMode);
     auto state = FirstRunState();
     state.YearEnterMode = row.yearEnterMode;
-    WizardRun run(state);
+    SznPages run(state);
     run.Start(IDD_SZN_SNGLINST);
     run.Current().TypeText(IDC_SZN_SNGLINST_SYMBOL, "IBM");
     ASSERT_TRUE(run.Wizard().PressBack());
     EXPECT_EQ(run.CurrentDialog(), row.back);
     EXPECT_EQ(run.State().Symbol1, "MSFT");
   }
-}
-
-// Season, Years, Contract Form, Symbol, Finish: the whole of a single instrument's path.
-TEST(SznWzrdPgSnglInst, ASingleInstrumentRunFromSeasonToFinish) {
-  WizardRun run(FirstRunState(2000), 2026);
-  run.Start(IDD_SZN_SEASON);
-  run.Current().SelectComboItem(IDC_SZN_SEASON_START, 10);
-  run.Current().SelectComboItem(IDC_SZN_SEASON_END, 1);
-  ASSERT_TRUE(run.Wizard().PressNext());
-  run.Current().ToggleListItem(IDC_SZN_YEARS_LIST, 1);
-  ASSERT_TRUE(run.Wizard().PressNext());
-  run.Current().Click(IDC_SZN_FORM_SNGLINST);
-  ASSERT_TRUE(run.Wizard().PressNext());
-  ASSERT_EQ(run.CurrentDialog(), IDD_SZN_SNGLINST);
-  run.Current().TypeText(IDC_SZN_SNGLINST_SYMBOL, "@ES");
-  ASSERT_TRUE(run.Wizard().PressFinish());
-  EXPECT_EQ(run.State().SelYears, (std::vector<int>{2026, 2024}));
-  EXPECT_EQ(run.State().SelYearIndexes, (std::vector<int>{0, 2}));
-  EXPECT_EQ(run.State().FormSel, 0);
-  EXPECT_EQ(run.State().Labels, (Texts{"@ES", "@ES"}));
-  EXPECT_EQ(orv::seasonal::MonthOf(run.State().Start), 11);
-  EXPECT_EQ(orv::seasonal::MonthOf(run.State().End), 2);
-  EXPECT_EQ(orv::seasonal::YearOf(run.State().End), 2000);
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // The seasonal wizard as a host meets it: a request with the twelve pages, a user who walks each
 // contract form from the first page to Finish, and the document that comes back, compared whole;
-// where Back leads from every page; Cancel; and a second run that starts from the first one's
-// history.
+// where Back leads from every page; Cancel; a second run that starts from the first one's
+// history; and what every page shows at its start (its buttons, its help).
 
 #include <gtest/gtest.h>
 
@@ -48,8 +48,36 @@ std::string Finished(int yearEnterMode, const std::string& contracts, const std:
   return sheet + PageList() + contracts + context + "</PropertySheet>";
 }
 
-// The season of a first run in 2026: January to December.
-constexpr const char* kWholeYear = "<MonthDayWindow Start=\"46023\" End=\"46387\"/>";
+// What Finish adds for the years list 2026, 2025, 2024: the months, YearsBack and one contract a
+// year, each year's symbol from `symbolOf`.
+std::string Contracts(const std::function<std::string(int year)>& symbolOf) {
+  std::string list = "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>";
+  list += "<ContractList>";
+  for (int year : {2026, 2025, 2024})
+    list += "<Contract Symbol=\"" + symbolOf(year) + "\" Year=\"" + std::to_string(year) + "\"/>";
+  return list + "</ContractList>";
+}
+
+// The rewritten Context of a first run in 2026 (season January to December, the three most
+// recent years picked): the form, the symbols, the two futures and the two year lists as markup.
+std::string FirstRunContext(int form, const std::string& symbols, const std::string& futures,
+                            const std::string& yearLists) {
+  return "<Context><FormSel>" + std::to_string(form) +
+         "</FormSel><YearsBack>5</YearsBack><MonthDayWindow Start=\"46023\" End=\"46387\"/>"
+         "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList><SymbolList>" +
+         symbols + "</SymbolList><FutureList>" + futures + "</FutureList><YearListList>" + yearLists +
+         "</YearListList></Context>";
+}
+
+std::string Future(const std::string& root, int month, const char* multiplier = "1.000000") {
+  return "<Future Root=\"" + root + "\" Month=\"" + std::to_string(month) + "\" Multiplier=\"" + multiplier + "\"/>";
+}
+
+constexpr const char* kDefaultFutures =
+    "<Future Root=\"@C\" Month=\"0\" Multiplier=\"1.000000\"/><Future Root=\"@S\" Month=\"0\" "
+    "Multiplier=\"1.000000\"/>";
+constexpr const char* kNoYearLists = "<YearList/><YearList/>";
+constexpr const char* kPickedYears = "<YearList><Year>2026</Year><Year>2025</Year><Year>2024</Year></YearList>";
 
 void Press(WizardRun& run, bool (orv::HeadlessRunner::*button)(), int expectedDialogId) {
   (run.runner.Sheet().*button)();
@@ -79,16 +107,8 @@ std::vector<FormWalk> FormWalks() {
          run.Current().TypeText(IDC_SZN_SNGLINST_SYMBOL, "CORN");
          EXPECT_TRUE(run.runner.Sheet().PressFinish());
        },
-       Finished(-1,
-                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
-                "<ContractList><Contract Symbol=\"CORN\" Year=\"2026\"/><Contract Symbol=\"CORN\" Year=\"2025\"/>"
-                "<Contract Symbol=\"CORN\" Year=\"2024\"/></ContractList>",
-                std::string("<Context><FormSel>0</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
-                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
-                    "<SymbolList><Symbol>CORN</Symbol><Symbol>INDU.X</Symbol></SymbolList>"
-                    "<FutureList><Future Root=\"@C\" Month=\"0\" Multiplier=\"1.000000\"/>"
-                    "<Future Root=\"@S\" Month=\"0\" Multiplier=\"1.000000\"/></FutureList>"
-                    "<YearListList><YearList/><YearList/></YearListList></Context>")},
+       Finished(-1, Contracts([](int) { return "CORN"; }),
+                FirstRunContext(0, "<Symbol>CORN</Symbol><Symbol>INDU.X</Symbol>", kDefaultFutures, kNoYearLists))},
       {"single root futures",
        [](WizardRun& run) {
          ToForm(run, IDC_SZN_FORM_SNGLROOTFUT, IDD_SZN_SNGLROOTFUT);
@@ -99,18 +119,10 @@ std::vector<FormWalk> FormWalks() {
          for (int row : {9, 10, 11}) page.ToggleListItem(IDC_SZN_SNGLROOT_YEARS, row);
          EXPECT_TRUE(run.runner.Sheet().PressFinish());
        },
-       Finished(-1,
-                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
-                "<ContractList><Contract Symbol=\"QNG2027H\" Year=\"2026\"/>"
-                "<Contract Symbol=\"QNG2026H\" Year=\"2025\"/><Contract Symbol=\"QNG2025H\" Year=\"2024\"/>"
-                "</ContractList>",
-                std::string("<Context><FormSel>1</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
-                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
-                    "<SymbolList><Symbol>MSFT</Symbol><Symbol>INDU.X</Symbol></SymbolList>"
-                    "<FutureList><Future Root=\"QNG\" Month=\"2\" Multiplier=\"1.000000\"/>"
-                    "<Future Root=\"@S\" Month=\"0\" Multiplier=\"1.000000\"/></FutureList>"
-                    "<YearListList><YearList><Year>2027</Year><Year>2026</Year><Year>2025</Year></YearList>"
-                    "<YearList/></YearListList></Context>")},
+       Finished(
+           -1, Contracts([](int year) { return "QNG" + std::to_string(year + 1) + "H"; }),
+           FirstRunContext(1, "<Symbol>MSFT</Symbol><Symbol>INDU.X</Symbol>", Future("QNG", 2) + Future("@S", 0),
+                           "<YearList><Year>2027</Year><Year>2026</Year><Year>2025</Year></YearList><YearList/>"))},
       {"cash spread",
        [](WizardRun& run) {
          ToForm(run, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD);
@@ -120,17 +132,9 @@ std::vector<FormWalk> FormWalks() {
          run.Current().TypeText(IDC_SZN_MULT_1, "2.5");
          EXPECT_TRUE(run.runner.Sheet().PressFinish());
        },
-       Finished(-1,
-                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
-                "<ContractList><Contract Symbol=\"2.50 * HO - CL\" Year=\"2026\"/>"
-                "<Contract Symbol=\"2.50 * HO - CL\" Year=\"2025\"/>"
-                "<Contract Symbol=\"2.50 * HO - CL\" Year=\"2024\"/></ContractList>",
-                std::string("<Context><FormSel>2</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
-                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
-                    "<SymbolList><Symbol>HO</Symbol><Symbol>CL</Symbol></SymbolList>"
-                    "<FutureList><Future Root=\"@C\" Month=\"0\" Multiplier=\"2.500000\"/>"
-                    "<Future Root=\"@S\" Month=\"0\" Multiplier=\"1.000000\"/></FutureList>"
-                    "<YearListList><YearList/><YearList/></YearListList></Context>")},
+       Finished(-1, Contracts([](int) { return "2.50 * HO - CL"; }),
+                FirstRunContext(2, "<Symbol>HO</Symbol><Symbol>CL</Symbol>",
+                                Future("@C", 0, "2.500000") + Future("@S", 0), kNoYearLists))},
       {"futures spread",
        [](WizardRun& run) {
          ToForm(run, IDC_SZN_FORM_FUTSPRD, IDD_SZN_FUT1);
@@ -143,19 +147,10 @@ std::vector<FormWalk> FormWalks() {
          Press(run, &R::PressNext, IDD_SZN_MULT);
          EXPECT_TRUE(run.runner.Sheet().PressFinish());
        },
-       Finished(-1,
-                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
-                "<ContractList><Contract Symbol=\"@C2026Z - QHO2025F\" Year=\"2026\"/>"
-                "<Contract Symbol=\"@C2025Z - QHO2024F\" Year=\"2025\"/>"
-                "<Contract Symbol=\"@C2024Z - QHO2023F\" Year=\"2024\"/></ContractList>",
-                std::string("<Context><FormSel>3</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
-                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
-                    "<SymbolList><Symbol>MSFT</Symbol><Symbol>INDU.X</Symbol></SymbolList>"
-                    "<FutureList><Future Root=\"@C\" Month=\"11\" Multiplier=\"1.000000\"/>"
-                    "<Future Root=\"QHO\" Month=\"0\" Multiplier=\"1.000000\"/></FutureList>"
-                    "<YearListList><YearList><Year>2026</Year><Year>2025</Year><Year>2024</Year></YearList>"
-                    "<YearList><Year>2025</Year><Year>2024</Year><Year>2023</Year></YearList></YearListList>"
-                    "</Context>")},
+       Finished(-1, Contracts([](int y) { return "@C" + std::to_string(y) + "Z - QHO" + std::to_string(y - 1) + "F"; }),
+                FirstRunContext(3, "<Symbol>MSFT</Symbol><Symbol>INDU.X</Symbol>", Future("@C", 11) + Future("QHO", 0),
+                                std::string(kPickedYears) +
+                                    "<YearList><Year>2025</Year><Year>2024</Year><Year>2023</Year></YearList>"))},
       {"cash futures spread",
        [](WizardRun& run) {
          ToForm(run, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID);
@@ -167,18 +162,10 @@ std::vector<FormWalk> FormWalks() {
          run.Current().TypeText(IDC_SZN_MULT_2, "-1");
          EXPECT_TRUE(run.runner.Sheet().PressFinish());
        },
-       Finished(-1,
-                "<StartMonthIndex>1</StartMonthIndex><EndMonthIndex>12</EndMonthIndex><YearsBack>5</YearsBack>"
-                "<ContractList><Contract Symbol=\"PCACG00 - -1.00 * QCL2026Z\" Year=\"2026\"/>"
-                "<Contract Symbol=\"PCACG00 - -1.00 * QCL2025Z\" Year=\"2025\"/>"
-                "<Contract Symbol=\"PCACG00 - -1.00 * QCL2024Z\" Year=\"2024\"/></ContractList>",
-                std::string("<Context><FormSel>4</FormSel><YearsBack>5</YearsBack>") + kWholeYear +
-                    "<SelYearList><SelYear>0</SelYear><SelYear>1</SelYear><SelYear>2</SelYear></SelYearList>"
-                    "<SymbolList><Symbol>PCACG00</Symbol><Symbol>INDU.X</Symbol></SymbolList>"
-                    "<FutureList><Future Root=\"@C\" Month=\"0\" Multiplier=\"1.000000\"/>"
-                    "<Future Root=\"QCL\" Month=\"11\" Multiplier=\"-1.000000\"/></FutureList>"
-                    "<YearListList><YearList/><YearList><Year>2026</Year><Year>2025</Year><Year>2024</Year>"
-                    "</YearList></YearListList></Context>")},
+       Finished(-1, Contracts([](int year) { return "PCACG00 - -1.00 * QCL" + std::to_string(year) + "Z"; }),
+                FirstRunContext(4, "<Symbol>PCACG00</Symbol><Symbol>INDU.X</Symbol>",
+                                Future("@C", 0) + Future("QCL", 11, "-1.000000"),
+                                std::string("<YearList/>") + kPickedYears))},
   };
 }
 
@@ -224,11 +211,11 @@ TEST(SznWizard, CountOfYearsTakesTheShortPathToOneSymbol) {
     EXPECT_EQ(result, 1);
     EXPECT_EQ(run.Events(), std::vector<std::string>{Finished(
                                 row.yearEnterMode, row.contracts,
-                                std::string("<Context><FormSel>0</FormSel><YearsBack>3</YearsBack>") + kWholeYear +
-                                    "<SelYearList/><SymbolList><Symbol>CORN</Symbol><Symbol>INDU.X</Symbol>"
-                                    "</SymbolList><FutureList><Future Root=\"@C\" Month=\"0\" "
-                                    "Multiplier=\"1.000000\"/><Future Root=\"@S\" Month=\"0\" "
-                                    "Multiplier=\"1.000000\"/></FutureList><YearListList><YearList/><YearList/>"
+                                std::string("<Context><FormSel>0</FormSel><YearsBack>3</YearsBack>") +
+                                    "<MonthDayWindow Start=\"46023\" End=\"46387\"/><SelYearList/><SymbolList>"
+                                    "<Symbol>CORN</Symbol><Symbol>INDU.X</Symbol></SymbolList><FutureList>" +
+                                    kDefaultFutures +
+                                    "</FutureList><YearListList><YearList/><YearList/>"
                                     "</YearListList></Context>")})
         << "mode " << row.yearEnterMode;
   }
@@ -238,87 +225,69 @@ TEST(SznWizard, BackFromEveryPageLandsWhereTheFlowSays) {
   using R = orv::HeadlessRunner;
   struct Row {
     const char* name;
-    std::function<void(WizardRun&)> reach;  // from the first page to the page under test
+    int radio;               // the form picked on the form page; 0: the walk doesn't pass it
+    std::vector<int> pages;  // where Next leads, from the form page on (else from Season on)
     int back;
   };
   const Row rows[] = {
-      {"years", [](WizardRun& r) { Press(r, &R::PressNext, IDD_SZN_YEARS); }, IDD_SZN_SEASON},
-      {"form",
-       [](WizardRun& r) {
-         Press(r, &R::PressNext, IDD_SZN_YEARS);
-         Press(r, &R::PressNext, IDD_SZN_FORM);
-       },
-       IDD_SZN_YEARS},
-      {"symbol", [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_SNGLINST, IDD_SZN_SNGLINST); }, IDD_SZN_FORM},
-      {"single root futures", [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_SNGLROOTFUT, IDD_SZN_SNGLROOTFUT); },
-       IDD_SZN_FORM},
-      {"symbols", [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD); }, IDD_SZN_FORM},
-      {"first futures", [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_FUTSPRD, IDD_SZN_FUT1); }, IDD_SZN_FORM},
-      {"second futures of a futures spread",
-       [](WizardRun& r) {
-         ToForm(r, IDC_SZN_FORM_FUTSPRD, IDD_SZN_FUT1);
-         Press(r, &R::PressNext, IDD_SZN_FUT2);
-       },
-       IDD_SZN_FUT1},
-      {"symbol of a cash futures spread",
-       [](WizardRun& r) { ToForm(r, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID); }, IDD_SZN_FORM},
+      {"years", 0, {IDD_SZN_YEARS}, IDD_SZN_SEASON},
+      {"form", 0, {IDD_SZN_YEARS, IDD_SZN_FORM}, IDD_SZN_YEARS},
+      {"symbol", IDC_SZN_FORM_SNGLINST, {IDD_SZN_SNGLINST}, IDD_SZN_FORM},
+      {"single root futures", IDC_SZN_FORM_SNGLROOTFUT, {IDD_SZN_SNGLROOTFUT}, IDD_SZN_FORM},
+      {"symbols", IDC_SZN_FORM_CASHSPRD, {IDD_SZN_CASHSPRD}, IDD_SZN_FORM},
+      {"first futures", IDC_SZN_FORM_FUTSPRD, {IDD_SZN_FUT1}, IDD_SZN_FORM},
+      {"second futures of a futures spread", IDC_SZN_FORM_FUTSPRD, {IDD_SZN_FUT1, IDD_SZN_FUT2}, IDD_SZN_FUT1},
+      {"symbol of a cash futures spread", IDC_SZN_FORM_CASHFUTSPRD, {IDD_SZN_SNGLINSTMID}, IDD_SZN_FORM},
       {"second futures of a cash futures spread",
-       [](WizardRun& r) {
-         ToForm(r, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID);
-         Press(r, &R::PressNext, IDD_SZN_FUT2);
-       },
+       IDC_SZN_FORM_CASHFUTSPRD,
+       {IDD_SZN_SNGLINSTMID, IDD_SZN_FUT2},
        IDD_SZN_SNGLINSTMID},
-      {"multipliers of a cash spread",
-       [](WizardRun& r) {
-         ToForm(r, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD);
-         Press(r, &R::PressNext, IDD_SZN_MULT);
-       },
-       IDD_SZN_CASHSPRD},
+      {"multipliers of a cash spread", IDC_SZN_FORM_CASHSPRD, {IDD_SZN_CASHSPRD, IDD_SZN_MULT}, IDD_SZN_CASHSPRD},
       {"multipliers of a futures spread skip the second futures",
-       [](WizardRun& r) {
-         ToForm(r, IDC_SZN_FORM_FUTSPRD, IDD_SZN_FUT1);
-         Press(r, &R::PressNext, IDD_SZN_FUT2);
-         Press(r, &R::PressNext, IDD_SZN_MULT);
-       },
+       IDC_SZN_FORM_FUTSPRD,
+       {IDD_SZN_FUT1, IDD_SZN_FUT2, IDD_SZN_MULT},
        IDD_SZN_FUT1},
       {"multipliers of a cash futures spread land under construction",
-       [](WizardRun& r) {
-         ToForm(r, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID);
-         Press(r, &R::PressNext, IDD_SZN_FUT2);
-         Press(r, &R::PressNext, IDD_SZN_MULT);
-       },
+       IDC_SZN_FORM_CASHFUTSPRD,
+       {IDD_SZN_SNGLINSTMID, IDD_SZN_FUT2, IDD_SZN_MULT},
        IDD_SZN_CONSTR},
-      // Back answers Under Construction, but the page then refuses to be left, as the platform
-      // asks it (kill-active) before it changes page.
-      {"multipliers that don't read keep the user there",
-       [](WizardRun& r) {
-         ToForm(r, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD);
-         Press(r, &R::PressNext, IDD_SZN_MULT);
-         r.Current().TypeText(IDC_SZN_MULT_1, "two");
-       },
-       IDD_SZN_MULT},
-      // Under Construction goes to its neighbour in the request's order: Multipliers.
-      {"under construction",
-       [](WizardRun& r) {
-         ToForm(r, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID);
-         Press(r, &R::PressNext, IDD_SZN_FUT2);
-         Press(r, &R::PressNext, IDD_SZN_MULT);
-         Press(r, &R::PressBack, IDD_SZN_CONSTR);
-       },
-       IDD_SZN_MULT},
   };
   for (const Row& row : rows) {
     MemorySettingsStore store;
     WizardRun run(store);
     run.Run(Request(-1), [&](HeadlessSheetRunner&) {
-      row.reach(run);
+      std::size_t next = 0;
+      if (row.radio != 0) ToForm(run, row.radio, row.pages[next++]);
+      for (; next < row.pages.size(); ++next) Press(run, &R::PressNext, row.pages[next]);
       run.runner.Sheet().PressBack();
       EXPECT_EQ(run.CurrentDialogId(), row.back) << row.name;
     });
     EXPECT_TRUE(run.owner.events.empty()) << row.name;
   }
-  // The count page and the symbol after it, on the short path.
   MemorySettingsStore store;
+  {
+    // Back from Multipliers whose field doesn't read answers Under Construction, but the page
+    // then refuses to be left, as the platform asks it (kill-active) before it changes page.
+    WizardRun run(store);
+    run.Run(Request(-1), [&](HeadlessSheetRunner&) {
+      ToForm(run, IDC_SZN_FORM_CASHSPRD, IDD_SZN_CASHSPRD);
+      Press(run, &R::PressNext, IDD_SZN_MULT);
+      run.Current().TypeText(IDC_SZN_MULT_1, "two");
+      Press(run, &R::PressBack, IDD_SZN_MULT);
+    });
+  }
+  {
+    // Under Construction goes to its neighbour in the request's order: Multipliers.
+    WizardRun run(store);
+    run.Run(Request(-1), [&](HeadlessSheetRunner&) {
+      ToForm(run, IDC_SZN_FORM_CASHFUTSPRD, IDD_SZN_SNGLINSTMID);
+      Press(run, &R::PressNext, IDD_SZN_FUT2);
+      Press(run, &R::PressNext, IDD_SZN_MULT);
+      Press(run, &R::PressBack, IDD_SZN_CONSTR);
+      Press(run, &R::PressBack, IDD_SZN_MULT);
+    });
+  }
+  // The count page and the symbol after it, on the short path.
   WizardRun run(store);
   run.Run(Request(1), [&](HeadlessSheetRunner&) {
     Press(run, &R::PressNext, IDD_SZN_YRCOUNT);
@@ -326,6 +295,7 @@ TEST(SznWizard, BackFromEveryPageLandsWhereTheFlowSays) {
     Press(run, &R::PressBack, IDD_SZN_YRCOUNT);
     Press(run, &R::PressBack, IDD_SZN_SEASON);
   });
+  EXPECT_TRUE(store.keys().empty()) << "none of these runs finished";
 }
 
 TEST(SznWizard, ReturningByBackKeepsWhatTheUserLeftOnAPage) {
@@ -439,6 +409,68 @@ TEST(SznWizard, OpeningTellsTheHostOfOneUseWhateverItAnswers) {
     EXPECT_EQ(run.Run(Request(-1), [&](HeadlessSheetRunner&) { EXPECT_TRUE(run.runner.Sheet().PressCancel()); }), 0);
     EXPECT_TRUE(host.AllExpectationsMet()) << "variant " << variant;
     EXPECT_TRUE(host.UnexpectedCalls().empty()) << "variant " << variant;
+  }
+}
+
+// Each page at its start: the wizard buttons of its place in the wizard, and its help text (the
+// form's and the futures pages' are their own tests'); the lookup buttons stay hidden.
+TEST(SznWizard, EveryPageStartsWithItsButtonsAndItsHelp) {
+  constexpr unsigned kMiddle = orv::kWizBack | orv::kWizNext, kLast = orv::kWizBack | orv::kWizFinish;
+  constexpr char kSymbolHelp[] =
+      "Enter a single contract symbol.\r\n\r\n   Orvane will split the historical data between different years by "
+      "season.";
+  struct Row {
+    int dialogId;
+    unsigned buttons;
+    int help;  // 0: no help of its own here
+    const char* text;
+  };
+  const Row rows[] = {
+      {IDD_SZN_SEASON, orv::kWizNext, IDC_SZN_SEASON_HELP,
+       "Select a starting and ending month to define a season.\r\n\r\n   A season is one to twelve months long,    "
+       "begins on the first day of the start month, and concludes on the last day of the end month.\r\n\r\n   "
+       "To define a season which spans midnight of new-years day, set the ending month prior to the beginning month."},
+      {IDD_SZN_YEARS, kMiddle, IDC_SZN_YEARS_HELP,
+       "Select the years to chart.\r\n\r\n   Orvane will create one chart per selected year.\r\n\r\n   When a season "
+       "spans two calendar years (includes midnight of new-years day),    Orvane begins the season on the starting "
+       "month year."},
+      {IDD_SZN_YRCOUNT, kMiddle, IDC_SZN_YRCOUNT_HELP,
+       "Specify the number of years of history to chart.\r\n\r\n   Orvane will create one chart for every year "
+       "beginning always with the most recent year.\r\n\r\n   When a season spans two calendar years (includes "
+       "midnight of new-years day),    Orvane begins the season on the starting month year."},
+      {IDD_SZN_FORM, kMiddle, 0, nullptr},
+      {IDD_SZN_FUT1, kMiddle, 0, nullptr},
+      {IDD_SZN_FUT2, kMiddle, 0, nullptr},
+      {IDD_SZN_CASHSPRD, kMiddle, IDC_SZN_CASHSPRD_HELP,
+       "Enter two different contract instruments to    create a cash spread.    Orvane will create the "
+       "difference of the two contracts and split the    result by the yearly seasons."},
+      {IDD_SZN_SNGLROOTFUT, kLast, 0, nullptr},
+      {IDD_SZN_SNGLINST, kLast, IDC_SZN_SNGLINST_HELP, kSymbolHelp},
+      {IDD_SZN_SNGLINSTMID, kMiddle, IDC_SZN_SNGLINSTMID_HELP, kSymbolHelp},
+      {IDD_SZN_MULT, kLast, IDC_SZN_MULT_HELP,
+       "Select spread mutlipliers or skip.     To compare items with different units of measure, enter an "
+       "appropriate     units conversion may be applied to spreads.     Orvanx applies Multiplier1 to the first "
+       "column of symbols and     Multiplier2 to the second column.     Press finish if you do not wish to enter "
+       "any conversion multipliers."},
+      {IDD_SZN_CONSTR, kLast, 0, nullptr},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.dialogId);
+    szntest::SznPages pages;
+    pages.State() = szntest::FirstRunState();
+    pages.Start(row.dialogId);
+    for (unsigned button : {orv::kWizBack, orv::kWizNext, orv::kWizFinish})
+      EXPECT_EQ(pages.Wizard().IsWizardButtonEnabled(button), (row.buttons & button) != 0) << "button " << button;
+    orv::FakeControls& c = pages.Controls(row.dialogId);
+    if (row.help != 0) {
+      EXPECT_EQ(c.GetDlgItemTextA(row.help, 4096), row.text);
+    }
+    for (int lookup : {IDC_SZN_SNGLINST_LOOKUP, IDC_SZN_SNGLINSTMID_LOOKUP, IDC_SZN_CASHSPRD_LOOKUP1,
+                       IDC_SZN_CASHSPRD_LOOKUP2, IDC_SZN_FUT1_LOOKUP, IDC_SZN_FUT2_LOOKUP, IDC_SZN_SNGLROOT_LOOKUP}) {
+      if (c.HasDlgItem(lookup)) {
+        EXPECT_FALSE(c.IsDlgItemVisible(lookup)) << "lookup " << lookup;
+      }
+    }
   }
 }
 

@@ -103,18 +103,6 @@ TEST(WizardHistoryRegistry, AFinishedRunIsWhatTheNextRunReads) {
   EXPECT_EQ(next.Years2, (std::vector<int>{2025, 2026}));
 }
 
-TEST(WizardHistoryRegistry, DwordsOfTheWrongTypeReadAsAbsent) {
-  std::unique_ptr<SettingsStore> store = CreateUserSettingsStore();
-  ASSERT_TRUE(store);
-  SavedWizardKey saved(*store);
-  store->WriteString(kSeasonalKey, kValueFormSel, "3");
-  store->WriteString(kSeasonalKey, kValueYearsBack, "7");
-  WizardSeasonState next;
-  ReadHistory(next, *store, FixedClock(DateTime{2026, 11, 24}));
-  EXPECT_EQ(next.FormSel, 0);
-  EXPECT_EQ(next.YearsBack, -1);
-}
-
 // A value of a raw registry type, as another program might have left it.
 void SetRaw(const char* name, DWORD type, const void* data, DWORD size) {
   HKEY key = nullptr;
@@ -124,23 +112,32 @@ void SetRaw(const char* name, DWORD type, const void* data, DWORD size) {
   RegCloseKey(key);
 }
 
+// FormSel and YearsBack of another type than DWORD, the lists' values of another type than text.
 TEST(WizardHistoryRegistry, ValuesOfOtherRegistryTypesReadAsAbsent) {
   std::unique_ptr<SettingsStore> store = CreateUserSettingsStore();
   ASSERT_TRUE(store);
-  SavedWizardKey saved(*store);
   const DWORD three = 3;
   const unsigned long long seven = 7;
-  SetRaw(kValueFormSel, REG_BINARY, &three, sizeof three);
-  SetRaw(kValueYearsBack, REG_QWORD, &seven, sizeof seven);
-  SetRaw("Snl3WizSymbol_1", REG_EXPAND_SZ, "CL?HO", 6);
-  SetRaw("Snl3WizSymbol_2", REG_SZ, "NG?HO", 6);
-  SetRaw("Snl3WizSelYears_1", REG_DWORD, &three, sizeof three);
-  WizardSeasonState next;
-  ReadHistory(next, *store, FixedClock(DateTime{2026, 11, 24}));
-  EXPECT_EQ(next.FormSel, 0);
-  EXPECT_EQ(next.YearsBack, -1);
-  EXPECT_EQ(next.Symbol1, "NG");
-  EXPECT_TRUE(next.SelYearIndexes.empty());
+  for (const bool asText : {true, false}) {
+    SCOPED_TRACE(asText ? "as text" : "binary and QWORD");
+    SavedWizardKey saved(*store);
+    if (asText) {
+      SetRaw(kValueFormSel, REG_SZ, "3", 2);
+      SetRaw(kValueYearsBack, REG_SZ, "7", 2);
+    } else {
+      SetRaw(kValueFormSel, REG_BINARY, &three, sizeof three);
+      SetRaw(kValueYearsBack, REG_QWORD, &seven, sizeof seven);
+    }
+    SetRaw("Snl3WizSymbol_1", REG_EXPAND_SZ, "CL?HO", 6);
+    SetRaw("Snl3WizSymbol_2", REG_SZ, "NG?HO", 6);
+    SetRaw("Snl3WizSelYears_1", REG_DWORD, &three, sizeof three);
+    WizardSeasonState next;
+    ReadHistory(next, *store, FixedClock(DateTime{2026, 11, 24}));
+    EXPECT_EQ(next.FormSel, 0);
+    EXPECT_EQ(next.YearsBack, -1);
+    EXPECT_EQ(next.Symbol1, "NG");
+    EXPECT_TRUE(next.SelYearIndexes.empty());
+  }
 }
 
 }  // namespace

@@ -193,6 +193,13 @@ cancelled_case "Futures Spread, Back from Multipliers: First Futures as it was l
   "next; next; click 4485; next; text 4523 QXY; next; next; back
    expect 4520 \"Select first set of futures contracts\"; expect 4523 QXY; cancel"
 
+# Back from Multipliers with a field that doesn't read: the page names Under Construction, but the
+# wizard asks the page before it changes page, the page says no for the same field, and the user
+# stays on Multipliers with what was typed.
+cancelled_case "Cash Spread, Back from Multipliers that don't read: the user stays; Cancel there" seasonal-years.xml \
+  "next; next; click 4484; next; next; text 4563 two; back
+   expect 4560 \"Contract conversion multipliers\"; expect 4563 two; cancel"
+
 # Years given as a count, with the host's Context: Season, Year Count, Symbol. One contract
 # without a year; the Context's season keeps its start year, and the end month carries it too.
 # Nothing here depends on the current year.
