@@ -5,3 +5,6 @@ list(APPEND ORV_DLGKIT_TEST_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/FontInfoTest.cpp)
 list(APPEND ORV_DLGKIT_WIN32_TEST_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/win32/FontOpsWin32Test.cpp)
+# Tests of the colour pickers.
+list(APPEND ORV_DLGKIT_TEST_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/ColorPickerTest.cpp)
