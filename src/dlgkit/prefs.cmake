@@ -11,3 +11,5 @@ list(APPEND ORV_DLGKIT_FAKE_SOURCES
 # The colour pickers: the portable grid and drop-down, and their windows (see README.md).
 list(APPEND ORV_DLGKIT_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/ColorPicker.cpp)
+list(APPEND ORV_DLGKIT_WIN32_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/win32/ColorPickerWin32.cpp)

@@ -8,3 +8,6 @@ list(APPEND ORV_DLGKIT_WIN32_TEST_SOURCES
 # Tests of the colour pickers.
 list(APPEND ORV_DLGKIT_TEST_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/ColorPickerTest.cpp)
+list(APPEND ORV_DLGKIT_WIN32_TEST_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/win32/ColorPickerWin32Test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/win32/ColorPickerWin32Test.rc)
