@@ -53,8 +53,7 @@ CDemoColorDlg::CDemoColorDlg(std::wstring screenshotPath) : screenshotPath_(std:
 
 int CDemoColorDlg::DialogId() const { return IDD_DEMO_COLORS; }
 
-bool CDemoColorDlg::OnAnyMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
-                                 std::intptr_t& result) {
+bool CDemoColorDlg::OnAnyMessage(unsigned message, std::uintptr_t wParam, std::intptr_t lParam, std::intptr_t& result) {
   if (message == WM_DEMO_COLOR_SCREENSHOT) {
     TakeScreenshot(static_cast<int>(wParam));
     result = 0;

@@ -37,8 +37,7 @@ const ColorPalette& ColorPaletteFor(SettingsStore& store) {
 
 // --- ColorGrid -------------------------------------------------------------------------------
 
-ColorGrid::ColorGrid(const ColorPalette& palette, double displayScale)
-    : inset_(static_cast<int>(2 * displayScale)) {
+ColorGrid::ColorGrid(const ColorPalette& palette, double displayScale) : inset_(static_cast<int>(2 * displayScale)) {
   std::copy(palette.begin(), palette.end(), cells_.begin());
 }
 
@@ -214,16 +213,14 @@ ColorButtonFigures ColorButtonLayout(const WindowRect& item, double displayScale
   return f;
 }
 
-ColorButtonColors ColorButtonThemeColors(const ThemeColors& theme) {
-  return {theme[1], theme[3], theme[6], theme[3]};
-}
+ColorButtonColors ColorButtonThemeColors(const ThemeColors& theme) { return {theme[1], theme[3], theme[6], theme[3]}; }
 
 ColorGridColors ColorGridThemeColors(const ThemeColors& theme) { return {theme[0], theme[0], theme[6]}; }
 
 unsigned XColorStaticTextFormat(std::uint32_t style) {
   const std::uint32_t align = style & 3u;
   unsigned format = align == 1 ? 1u : align == 2 ? 2u : 0u;  // DT_CENTER, DT_RIGHT, DT_LEFT
-  format |= (style & 0x200u) ? 36u : 16u;                     // DT_SINGLELINE | DT_VCENTER, DT_WORDBREAK
+  format |= (style & 0x200u) ? 36u : 16u;                    // DT_SINGLELINE | DT_VCENTER, DT_WORDBREAK
   return format;
 }
 

@@ -47,7 +47,7 @@ inline constexpr char kColorSwatchText[] = "   ";
 inline constexpr int kColorGridColumns = 9;
 inline constexpr int kColorGridRows = 9;
 inline constexpr int kColorGridCells = kColorGridColumns * kColorGridRows;  // 81
-inline constexpr int kColorGridPresets = 63;                               // the first custom cell
+inline constexpr int kColorGridPresets = 63;                                // the first custom cell
 
 using ColorPalette = std::array<std::uint32_t, kColorGridPresets>;
 
@@ -61,9 +61,9 @@ const ColorPalette& ColorPaletteFor(SettingsStore& store);
 struct ColorGridAction {
   enum Kind {
     None,
-    NotifyParent,   // send kWmColorCellChanged with `button` (0 left, 1 right) to the parent
-    EditCell,       // run the colour editor on `cell`
-    SendDoubleClick // send WM_LBUTTONDBLCLK to the grid itself
+    NotifyParent,    // send kWmColorCellChanged with `button` (0 left, 1 right) to the parent
+    EditCell,        // run the colour editor on `cell`
+    SendDoubleClick  // send WM_LBUTTONDBLCLK to the grid itself
   };
   Kind kind = None;
   int cell = -1;
@@ -195,9 +195,9 @@ PopupPlace PlaceColorPopup(const WindowRect& button, int popupWidth, int popupHe
 
 // The colour button's figures inside its item rectangle.
 struct ColorButtonFigures {
-  int arrowBoxWidth = 0;   // 4 + 11 * scale, truncated
-  WindowRect arrowStrip;   // the arrow's strip: ends 2 pixels from the right edge
-  WindowRect swatch;       // left + 5, top + 4 to right - arrow box - 2, bottom - 4
+  int arrowBoxWidth = 0;  // 4 + 11 * scale, truncated
+  WindowRect arrowStrip;  // the arrow's strip: ends 2 pixels from the right edge
+  WindowRect swatch;      // left + 5, top + 4 to right - arrow box - 2, bottom - 4
   // The down-pointing triangle centred in the strip: left, right and bottom tip.
   struct Point {
     float x = 0, y = 0;

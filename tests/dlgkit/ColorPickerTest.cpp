@@ -30,10 +30,9 @@ TEST(ColorPaletteTest, CellsByRowAndColumnInBothPalettes) {
     int row, column;
     std::uint32_t newer, older;
   } cases[] = {
-      {0, 0, 0xCCCCFF, 0xC1B6FF}, {0, 8, 0xFFFFFF, 0xFFFFFF}, {1, 3, 0x99FF99, 0x2FFFAD},
-      {2, 6, 0xFF3333, 0xC07000}, {3, 7, 0xFF00C4, 0xFF00FF}, {4, 1, 0x0080FF, 0x20A5DA},
-      {5, 7, 0xFF0080, 0x800080}, {6, 0, 0x000080, 0x00008B}, {6, 5, 0x663300, 0xB5752F},
-      {6, 8, 0x000000, 0x000000},
+      {0, 0, 0xCCCCFF, 0xC1B6FF}, {0, 8, 0xFFFFFF, 0xFFFFFF}, {1, 3, 0x99FF99, 0x2FFFAD}, {2, 6, 0xFF3333, 0xC07000},
+      {3, 7, 0xFF00C4, 0xFF00FF}, {4, 1, 0x0080FF, 0x20A5DA}, {5, 7, 0xFF0080, 0x800080}, {6, 0, 0x000080, 0x00008B},
+      {6, 5, 0x663300, 0xB5752F}, {6, 8, 0x000000, 0x000000},
   };
   for (const Case& c : cases) {
     const int index = c.row * 9 + c.column;
@@ -66,8 +65,7 @@ TEST(ColorPaletteTest, RegistryChoosesTheOlderOnlyForANonZeroDword) {
   for (const Case& c : cases) {
     orv::MemorySettingsStore store;
     c.fill(store);
-    EXPECT_EQ(&orv::ColorPaletteFor(store), c.older ? &orv::OlderColorPalette() : &orv::NewerColorPalette())
-        << c.what;
+    EXPECT_EQ(&orv::ColorPaletteFor(store), c.older ? &orv::OlderColorPalette() : &orv::NewerColorPalette()) << c.what;
     ColorGrid grid(orv::ColorPaletteFor(store), 1.0);
     EXPECT_EQ(grid.CellColor(1 * 9 + 2), c.older ? 0x99E5FFu : 0xADFFFFu) << c.what;
   }
@@ -81,12 +79,12 @@ TEST(ColorGridTest, LayoutSquaresTheCellsAndCentresTheRemainder) {
     double scale;
     int inset, cell, xOffset, yOffset;
   } cases[] = {
-      {180, 180, 1.0, 2, 20, 1, 0},    // exact: only the inset shifts x
-      {185, 170, 1.0, 2, 18, 3, 4},    // 185 % 9 = 5, 170 % 9 = 8
-      {200, 150, 1.5, 3, 16, 2, 3},    // 200 % 9 = 2, (2 + 3) / 2; 150 % 9 = 6
-      {100, 250, 1.25, 2, 11, 1, 3},   // width decides; 2.5 truncates to 2
-      {270, 270, 2.0, 4, 30, 2, 0},
-      {8, 8, 1.0, 2, 0, 5, 4},         // smaller than the grid: empty cells
+      {180, 180, 1.0, 2, 20, 1, 0},   // exact: only the inset shifts x
+      {185, 170, 1.0, 2, 18, 3, 4},   // 185 % 9 = 5, 170 % 9 = 8
+      {200, 150, 1.5, 3, 16, 2, 3},   // 200 % 9 = 2, (2 + 3) / 2; 150 % 9 = 6
+      {100, 250, 1.25, 2, 11, 1, 3},  // width decides; 2.5 truncates to 2
+      {270, 270, 2.0, 4, 30, 2, 0},   // 200 %
+      {8, 8, 1.0, 2, 0, 5, 4},        // smaller than the grid: empty cells
   };
   for (const Case& c : cases) {
     ColorGrid grid(orv::NewerColorPalette(), c.scale);
@@ -106,9 +104,9 @@ TEST(ColorGridTest, CellRectanglesRunRowByRowAndOutOfRangeIsEmpty) {
   struct Case {
     int index, left, top, right, bottom;
   } cases[] = {
-      {0, 3, 4, 21, 22},       {8, 147, 4, 165, 22},     {9, 3, 22, 21, 40},
-      {62, 147, 112, 165, 130}, {63, 3, 130, 21, 148},   {80, 147, 148, 165, 166},
-      {-1, 0, 0, 0, 0},        {81, 0, 0, 0, 0},         {1000, 0, 0, 0, 0},
+      {0, 3, 4, 21, 22},        {8, 147, 4, 165, 22},  {9, 3, 22, 21, 40},
+      {62, 147, 112, 165, 130}, {63, 3, 130, 21, 148}, {80, 147, 148, 165, 166},
+      {-1, 0, 0, 0, 0},         {81, 0, 0, 0, 0},      {1000, 0, 0, 0, 0},
   };
   for (const Case& c : cases)
     EXPECT_TRUE(SameRect(grid.CellRect(c.index), c.left, c.top, c.right, c.bottom)) << c.index;
@@ -120,8 +118,8 @@ TEST(ColorGridTest, HitTestTakesLeftAndTopEdgesAndMissesOutside) {
   struct Case {
     int x, y, cell;
   } cases[] = {
-      {3, 4, 0},     {20, 21, 0},   {21, 4, 1},    {3, 22, 9},   {164, 165, 80}, {100, 100, 5 * 9 + 5},
-      {2, 4, -1},    {3, 3, -1},    {165, 4, -1},  {3, 166, -1}, {-5, -5, -1},  {184, 169, -1},
+      {3, 4, 0},  {20, 21, 0}, {21, 4, 1},   {3, 22, 9},   {164, 165, 80}, {100, 100, 5 * 9 + 5},
+      {2, 4, -1}, {3, 3, -1},  {165, 4, -1}, {3, 166, -1}, {-5, -5, -1},   {184, 169, -1},
   };
   for (const Case& c : cases) EXPECT_EQ(grid.HitTest(c.x, c.y), c.cell) << c.x << "," << c.y;
 }
@@ -220,10 +218,10 @@ TEST_F(ColorGridMouseTest, SecondClickOnTheSelectedCellWithinTheTimeIsADoubleCli
     std::uint64_t at;
     ColorGridAction::Kind kind;
   } steps[] = {
-      {1'000'000, ColorGridAction::None},            // the first click on it only starts the clock
+      {1'000'000, ColorGridAction::None},             // the first click on it only starts the clock
       {1'000'400, ColorGridAction::SendDoubleClick},  // within 500
       {1'000'900, ColorGridAction::SendDoubleClick},  // exactly 500 counts
-      {1'001'401, ColorGridAction::None},            // 501 doesn't, and restarts the clock
+      {1'001'401, ColorGridAction::None},             // 501 doesn't, and restarts the clock
       {1'001'500, ColorGridAction::SendDoubleClick},
   };
   for (const Step& s : steps) {
@@ -432,7 +430,7 @@ TEST(XColorStaticTest, TextFormatFromTheStyle) {
     std::uint32_t style;
     unsigned format;
   } cases[] = {
-      {0x0, 16},   {0x1, 17},   {0x2, 18},  {0x3, 16},  // SS_LEFTNOWORDWRAP-like 3 stays left
+      {0x0, 16},   {0x1, 17},   {0x2, 18},   {0x3, 16},  // SS_LEFTNOWORDWRAP-like 3 stays left
       {0x200, 36}, {0x201, 37}, {0x202, 38}, {0x50000201, 37},
   };
   for (const Case& c : cases) EXPECT_EQ(orv::XColorStaticTextFormat(c.style), c.format) << std::hex << c.style;

@@ -95,9 +95,8 @@ bool FillTriangleGdiplus(HDC dc, const ColorButtonFigures& figures, COLORREF col
             sum[0] += (sample >> 16) & 0xFF, sum[1] += (sample >> 8) & 0xFF, sum[2] += sample & 0xFF;
           }
         constexpr unsigned kSamples = kSuper * kSuper;
-        gp::GdipBitmapSetPixel(small, x, y,
-                               0xFF000000u | ((sum[0] / kSamples) << 16) | ((sum[1] / kSamples) << 8) |
-                                   (sum[2] / kSamples));
+        gp::GdipBitmapSetPixel(
+            small, x, y, 0xFF000000u | ((sum[0] / kSamples) << 16) | ((sum[1] / kSamples) << 8) | (sum[2] / kSamples));
       }
     Gdiplus::GpGraphics* screen = nullptr;
     if (gp::GdipCreateFromHDC(dc, &screen) == Gdiplus::Ok) {
@@ -167,9 +166,9 @@ bool ColorWnd::Create(HWND placeholder) {
   ::GetWindowRect(placeholder, &rect);
   ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
   const int id = ::GetDlgCtrlID(placeholder);
-  HWND created = ::CreateWindowExA(0, kClassName, "", orv::kColorGridStyle, rect.left, rect.top,
-                                   rect.right - rect.left, rect.bottom - rect.top, parent,
-                                   reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), module, this);
+  HWND created = ::CreateWindowExA(0, kClassName, "", orv::kColorGridStyle, rect.left, rect.top, rect.right - rect.left,
+                                   rect.bottom - rect.top, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                   module, this);
   if (!created) return false;
   // Right behind the placeholder in the tab order.
   ::SetWindowPos(created, placeholder, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -452,10 +451,9 @@ void CSingleColorDlg::Show(std::uint32_t color) {
   RECT button{}, popup{};
   ::GetWindowRect(owner_, &button);
   ::GetWindowRect(window_, &popup);
-  const orv::PopupPlace place = orv::PlaceColorPopup({button.left, button.top, button.right, button.bottom},
-                                                     popup.right - popup.left, popup.bottom - popup.top,
-                                                     ::GetSystemMetrics(SM_CXVIRTUALSCREEN),
-                                                     ::GetSystemMetrics(SM_CYVIRTUALSCREEN));
+  const orv::PopupPlace place = orv::PlaceColorPopup(
+      {button.left, button.top, button.right, button.bottom}, popup.right - popup.left, popup.bottom - popup.top,
+      ::GetSystemMetrics(SM_CXVIRTUALSCREEN), ::GetSystemMetrics(SM_CYVIRTUALSCREEN));
   ::SetWindowPos(window_, HWND_TOP, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_SHOWWINDOW);
   HWND focus = state.listMode ? list_ : (grid_ ? grid_->Window() : nullptr);
   if (focus) ::SetFocus(focus);
@@ -743,8 +741,8 @@ void CWtlColorBtn::Draw(const DRAWITEMSTRUCT& item) {
   const RECT& rect = item.rcItem;
   orv::FillColor(dc, rect, m_bodyColor);
   orv::FrameColor(dc, rect, (item.itemState & ODS_FOCUS) ? m_focusFrameColor : m_frameColor);
-  const orv::ColorButtonFigures figures =
-      orv::ColorButtonLayout({rect.left, rect.top, rect.right, rect.bottom}, orv::DisplayScale(orv::DefaultWindowOps()));
+  const orv::ColorButtonFigures figures = orv::ColorButtonLayout({rect.left, rect.top, rect.right, rect.bottom},
+                                                                 orv::DisplayScale(orv::DefaultWindowOps()));
   orv::FillTriangle(dc, figures, m_arrowColor, m_bodyColor);
   if (!(item.itemState & ODS_DISABLED)) orv::FillColor(dc, orv::ToRect(figures.swatch), m_color);
 }

@@ -43,9 +43,7 @@ class PrefsHost : public orv::HostServices {
     theme[4] = RGB(18, 22, 30);
     theme[6] = RGB(0, 150, 100);
   }
-  std::unique_ptr<orv::SettingsService> CreateSettingsService() override {
-    return std::make_unique<Settings>(*this);
-  }
+  std::unique_ptr<orv::SettingsService> CreateSettingsService() override { return std::make_unique<Settings>(*this); }
   std::unique_ptr<orv::HelpService> CreateHelpService() override { return nullptr; }
   ThemeColors theme;
 
