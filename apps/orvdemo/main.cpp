@@ -1,7 +1,10 @@
 // orvdemo: shows one themed dialog of the kit, with a theme served by an in-process host.
 //   orvdemo                         the dialog stays until the user closes it; OK prints the settings
 //   orvdemo --screenshot <file.png> once shown and painted, writes it as a PNG and exits
+//   orvdemo --colors [...]          the colour dialog instead (OK prints the colours); with
+//                                   --screenshot the picture holds the open colour drop-down
 // Exit code: 0 done, 1 the dialog or the screenshot failed, 2 bad command line.
+#include "ColorDemoDialog.h"
 #include "DemoDialog.h"
 
 #include "dlgkit/HostServicesInProcess.h"
@@ -35,27 +38,52 @@ ThemeColors DemoTheme() {
   return theme;
 }
 
+int RunColors(HINSTANCE instance, const std::wstring& screenshot) {
+  orv::demo::CDemoColorDlg dialog(screenshot);
+  const INT_PTR result = orv::RunPageDialog(dialog, instance, dialog.DialogId(), nullptr, &orv::DefaultWindowOps());
+  if (result == -1) {
+    std::fprintf(stderr, "orvdemo: cannot create the dialog (error %lu)\n", GetLastError());
+    return 1;
+  }
+  if (!screenshot.empty()) {
+    if (FAILED(dialog.ScreenshotResult())) {
+      std::fprintf(stderr, "orvdemo: cannot write %ls (0x%08lx)\n", screenshot.c_str(),
+                   static_cast<unsigned long>(dialog.ScreenshotResult()));
+      return 1;
+    }
+    std::printf("orvdemo: screenshot written to %ls\n", screenshot.c_str());
+  } else if (result == IDOK) {
+    std::printf("%s\n", dialog.Describe().c_str());
+  }
+  return 0;
+}
+
 int Run(HINSTANCE instance) {
   int argc = 0;
   std::unique_ptr<LPWSTR, decltype(&LocalFree)> argv(CommandLineToArgvW(GetCommandLineW(), &argc), &LocalFree);
   std::wstring screenshot;
+  bool colors = false;
   for (int i = 1; argv && i < argc; ++i) {
     const std::wstring arg = argv.get()[i];
     if (arg == L"--screenshot" && i + 1 < argc && argv.get()[i + 1][0] != L'\0') {
       screenshot = argv.get()[++i];
+    } else if (arg == L"--colors") {
+      colors = true;
     } else {
-      std::fprintf(stderr, "usage: orvdemo [--screenshot <file.png>]\n");
+      std::fprintf(stderr, "usage: orvdemo [--colors] [--screenshot <file.png>]\n");
       return 2;
     }
   }
 
-  INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS};
+  INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_STANDARD_CLASSES | ICC_UPDOWN_CLASS | ICC_LISTVIEW_CLASSES};
   InitCommonControlsEx(&classes);
   orv::ComApartment com;
 
   // The kit asks "the host" for its theme; here the host is this program.
   orv::InProcessHostServices host(DemoTheme());
   orv::ScopedHostServices useHost(host);
+
+  if (colors) return RunColors(instance, screenshot);
 
   orv::demo::CDemoDlg dialog(screenshot);
   const INT_PTR result = orv::RunPageDialog(dialog, instance, dialog.DialogId(), nullptr, &orv::DefaultWindowOps());

@@ -8,3 +8,9 @@ list(APPEND ORV_DLGKIT_WIN32_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/win32/FontOpsWin32.cpp)
 list(APPEND ORV_DLGKIT_FAKE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/fake/FakeFontOps.cpp)
+# The colour pickers: the portable grid and drop-down, and their windows (see README.md).
+list(APPEND ORV_DLGKIT_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/ColorPicker.cpp)
+list(APPEND ORV_DLGKIT_WIN32_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/win32/ColorPickerWin32.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/win32/ColorPickerMirror.cpp)

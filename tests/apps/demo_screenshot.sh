@@ -1,13 +1,14 @@
 #!/bin/sh
 # Runs the demo headless with --screenshot and checks the PNG: a dialog-sized picture with
 # more than a handful of colours (a black or blank capture has one or two).
-#   demo_screenshot.sh <wine-run.sh> <orvdemo.exe> <work dir> <min w> <max w> <min h> <max h>
+#   demo_screenshot.sh <wine-run.sh> <orvdemo.exe> <work dir> <min w> <max w> <min h> <max h> [demo options]
 set -eu
 runner=$1 exe=$2 dir=$3 minw=$4 maxw=$5 minh=$6 maxh=$7
+shift 7
 mkdir -p "$dir"
 cd "$dir"
 rm -f demo.png
-"$runner" "$exe" --screenshot demo.png
+"$runner" "$exe" "$@" --screenshot demo.png
 [ -s demo.png ] || { echo "no demo.png written" >&2; exit 1; }
 set -- $(identify -format '%m %w %h %k' demo.png)
 format=$1 width=$2 height=$3 colours=$4

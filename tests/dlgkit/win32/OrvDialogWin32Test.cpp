@@ -180,8 +180,11 @@ class OrvDialogWin32Test : public ::testing::Test {
     wc.hInstance = GetModuleHandleA(nullptr);
     wc.lpszClassName = "ColorWnd";
     wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    // The colour grid's own class may be registered by an earlier test of this program.
+    UnregisterClassA("ColorWnd", wc.hInstance);
     RegisterClassA(&wc);
   }
+  static void TearDownTestSuite() { UnregisterClassA("ColorWnd", GetModuleHandleA(nullptr)); }
   void SetUp() override {
     g_colorWndMessages.clear();
     g_colorWndTheme = nullptr;
