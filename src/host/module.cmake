@@ -34,7 +34,7 @@ set(ORV_HOST_APP_MANIFEST ${ORV_MANIFEST_DIR}/HostApp.manifest CACHE INTERNAL
 file(GLOB orv_linestudies_rc CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/linestudies/*.rc ${PROJECT_SOURCE_DIR}/src/linestudies/*.h)
 file(GLOB orv_seasonal_rc CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/seasonal/*.rc ${PROJECT_SOURCE_DIR}/src/seasonal/*.h)
 set(orv_rc_depends ${ORV_TYPELIB} ${ORV_MANIFEST_DIR}/OrvChartDlgs.manifest ${CMAKE_CURRENT_LIST_DIR}/OrvChartDlgs.ui.manifest
-  ${orv_linestudies_rc} ${orv_seasonal_rc})
+  ${orv_linestudies_rc} ${orv_seasonal_rc} ${PROJECT_SOURCE_DIR}/src/dlgkit/win32/ColorPicker.rc)
 set(orv_rc_definitions)
 if(EXISTS ${PROJECT_SOURCE_DIR}/src/linestudies/LineStudies.rc)
   list(APPEND orv_rc_definitions ORV_HAVE_LINESTUDIES_RC)
