@@ -38,8 +38,10 @@ ThemeColors DemoTheme() {
   return theme;
 }
 
-int RunColors(HINSTANCE instance, const std::wstring& screenshot) {
-  orv::demo::CDemoColorDlg dialog(screenshot);
+// Runs a demo dialog; with a screenshot file its picture is written, else what the user chose
+// on OK is printed (`describe`).
+template <class Dialog, class Describe>
+int RunDemo(HINSTANCE instance, Dialog& dialog, const std::wstring& screenshot, Describe describe) {
   const INT_PTR result = orv::RunPageDialog(dialog, instance, dialog.DialogId(), nullptr, &orv::DefaultWindowOps());
   if (result == -1) {
     std::fprintf(stderr, "orvdemo: cannot create the dialog (error %lu)\n", GetLastError());
@@ -53,7 +55,7 @@ int RunColors(HINSTANCE instance, const std::wstring& screenshot) {
     }
     std::printf("orvdemo: screenshot written to %ls\n", screenshot.c_str());
   } else if (result == IDOK) {
-    std::printf("%s\n", dialog.Describe().c_str());
+    std::printf("%s\n", describe().c_str());
   }
   return 0;
 }
@@ -83,25 +85,12 @@ int Run(HINSTANCE instance) {
   orv::InProcessHostServices host(DemoTheme());
   orv::ScopedHostServices useHost(host);
 
-  if (colors) return RunColors(instance, screenshot);
-
+  if (colors) {
+    orv::demo::CDemoColorDlg dialog(screenshot);
+    return RunDemo(instance, dialog, screenshot, [&] { return dialog.Describe(); });
+  }
   orv::demo::CDemoDlg dialog(screenshot);
-  const INT_PTR result = orv::RunPageDialog(dialog, instance, dialog.DialogId(), nullptr, &orv::DefaultWindowOps());
-  if (result == -1) {
-    std::fprintf(stderr, "orvdemo: cannot create the dialog (error %lu)\n", GetLastError());
-    return 1;
-  }
-  if (!screenshot.empty()) {
-    if (FAILED(dialog.ScreenshotResult())) {
-      std::fprintf(stderr, "orvdemo: cannot write %ls (0x%08lx)\n", screenshot.c_str(),
-                   static_cast<unsigned long>(dialog.ScreenshotResult()));
-      return 1;
-    }
-    std::printf("orvdemo: screenshot written to %ls\n", screenshot.c_str());
-  } else if (result == IDOK) {
-    std::printf("%s\n", orv::demo::Describe(dialog.Settings()).c_str());
-  }
-  return 0;
+  return RunDemo(instance, dialog, screenshot, [&] { return orv::demo::Describe(dialog.Settings()); });
 }
 
 }  // namespace

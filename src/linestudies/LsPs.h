@@ -16,8 +16,8 @@
 
 #include "dlgkit/ChartData.h"
 #include "dlgkit/Controls.h"
-#include "dlgkit/OrvDialog.h"
 #include "dlgkit/SheetRunner.h"
+#include "dlgkit/ThemedSheet.h"
 #include "linestudies/LineStudyPage.h"
 #include "linestudies/LsPageTable.h"
 #include "linestudies/LsSheetTab.h"
@@ -25,7 +25,7 @@
 #include "xml/XmlError.h"
 
 template <class T>
-class CLsPs : public COrvDialog<CLsPs<T>> {
+class CLsPs : public orv::ThemedSheet<CLsPs<T>> {
  public:
   static constexpr const char* kSheetName = "LSPs";
 
@@ -88,26 +88,9 @@ class CLsPs : public COrvDialog<CLsPs<T>> {
       tabPages.push_back(std::make_unique<LsSheetTab>(*slots_[slot], views[slot]));
       setup.pages.push_back({tabPages.back().get(), table[slot].dialogId});
     }
-    // The sheet is a themed dialog too: its own children (tabs, buttons) get the host's theme.
-    setup.onInitialized = [this](orv::WindowHandle window, orv::WindowOps& ops) {
-      window_ = window;
-      this->AttachWindow(ops, window);
-      this->SubclassControls();
-      this->LoadTheme();
-    };
     setup.onPageApply = [this](int dialogId) { return OnPageApply(dialogId); };
-    setup.onSheetMessage = [this](unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
-                                  std::intptr_t& result) {
-      if (!window_) return false;
-      return this->ProcessThemeMessage(window_, message, wParam, lParam, result) ||
-             this->ReflectNotifications(window_, message, wParam, lParam, result);
-    };
-    // The window is gone when the run returns, also when it throws.
-    struct Detach {
-      orv::WindowHandle& window;
-      ~Detach() { window = nullptr; }
-    } detach{window_};
-    return runner.Run(setup);
+    // The sheet is a themed dialog too: its own children (tabs, buttons) get the host's theme.
+    return this->RunThemed(runner, setup);
   }
 
   // kWmLsPageApply: a page with `dialogId` applies. Builds the document holding that page alone
@@ -158,5 +141,4 @@ class CLsPs : public COrvDialog<CLsPs<T>> {
   std::vector<std::size_t> tabs_;  // slot of each tab, in tab order
   XmlNode document_;
   std::string title_;
-  orv::WindowHandle window_ = nullptr;
 };

@@ -17,17 +17,17 @@
 
 #include "dlgkit/Clock.h"
 #include "dlgkit/HostServices.h"
-#include "dlgkit/OrvDialog.h"
 #include "dlgkit/SettingsStore.h"
 #include "dlgkit/SheetRunner.h"
 #include "dlgkit/StrHash.h"
+#include "dlgkit/ThemedSheet.h"
 #include "seasonal/SznPageTable.h"
 #include "seasonal/WizardSeasonState.h"
 #include "xml/Xml.h"
 #include "xml/XmlError.h"
 
 template <class T>
-class CSznWzrdPs : public COrvDialog<CSznWzrdPs<T>> {
+class CSznWzrdPs : public orv::ThemedSheet<CSznWzrdPs<T>> {
  public:
   static constexpr const char* kSheetName = "SznWzrdPs";
 
@@ -81,18 +81,7 @@ class CSznWzrdPs : public COrvDialog<CSznWzrdPs<T>> {
     setup.parent = parent;
     setup.pages = sheetPages_;
     setup.startPage = startPage_;
-    setup.onInitialized = [this](orv::WindowHandle window, orv::WindowOps& ops) { OnSheetInitialized(window, ops); };
-    setup.onSheetMessage = [this](unsigned message, std::uintptr_t wParam, std::intptr_t lParam,
-                                  std::intptr_t& result) {
-      if (!window_) return false;
-      return this->ProcessThemeMessage(window_, message, wParam, lParam, result) ||
-             this->ReflectNotifications(window_, message, wParam, lParam, result);
-    };
-    struct Detach {
-      orv::WindowHandle& window;
-      ~Detach() { window = nullptr; }
-    } detach{window_};
-    return runner.Run(setup);
+    return this->RunThemed(runner, setup, [this] { TellHostOfOneUse(); });
   }
 
   bool WriteContractList() { return orv::seasonal::WriteContractList(context_.state, document_); }
@@ -129,13 +118,9 @@ class CSznWzrdPs : public COrvDialog<CSznWzrdPs<T>> {
   }
 
  private:
-  // The sheet is up: its own children take the theme, and the host's settings service is told
-  // of one use of the wizard (its answer, and its absence, change nothing).
-  void OnSheetInitialized(orv::WindowHandle window, orv::WindowOps& ops) {
-    window_ = window;
-    this->AttachWindow(ops, window);
-    this->SubclassControls();
-    this->LoadTheme();
+  // The sheet is up and themed: the host's settings service is told of one use of the wizard
+  // (its answer, and its absence, change nothing).
+  void TellHostOfOneUse() {
     try {
       if (auto service = orv::CurrentHostServices().CreateSettingsService()) {
         std::int32_t result = 0;
@@ -154,5 +139,4 @@ class CSznWzrdPs : public COrvDialog<CSznWzrdPs<T>> {
   std::vector<orv::SheetPage> sheetPages_;
   int startPage_ = 0;
   XmlNode document_;
-  orv::WindowHandle window_ = nullptr;
 };
