@@ -163,8 +163,14 @@ DWORD Regsvr32(bool unregister) {
   std::wstring command = L"regsvr32.exe /s " + std::wstring(unregister ? L"/u " : L"") + L"\"" + DllPath() + L"\"";
   STARTUPINFOW startup = {sizeof startup};
   PROCESS_INFORMATION process{};
-  if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
-    return 0xFFFFFFFF;
+  // Under Wine, starting a process right after another has ended fails now and then on a loaded
+  // machine (the DLL is not involved yet): start it again, a few times at most.
+  bool started = false;
+  for (int attempt = 0; attempt < 5 && !started; ++attempt) {
+    if (attempt > 0) Sleep(200);
+    started = CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process);
+  }
+  if (!started) return 0xFFFFFFFF;
   WaitForSingleObject(process.hProcess, 60000);
   DWORD code = 0xFFFFFFFE;
   GetExitCodeProcess(process.hProcess, &code);
