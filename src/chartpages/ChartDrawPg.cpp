@@ -67,9 +67,29 @@ std::uint32_t& CChartDrawPg::ColorSlot(int id) {
   return colors_[found - std::begin(kColorButtons)];
 }
 
-std::uint32_t CChartDrawPg::ButtonColor(int id) const { return const_cast<CChartDrawPg*>(this)->ColorSlot(id); }
+std::uint32_t CChartDrawPg::ButtonColor(int id) const {
+  if (buttons_ && buttons_->IsAttached(id)) return buttons_->Color(id);
+  return const_cast<CChartDrawPg*>(this)->ColorSlot(id);
+}
 
-void CChartDrawPg::SetButtonColor(int id, std::uint32_t color) { ColorSlot(id) = color; }
+void CChartDrawPg::SetButtonColor(int id, std::uint32_t color) {
+  ColorSlot(id) = color;
+  if (buttons_ && buttons_->IsAttached(id)) buttons_->SetColor(id, color);
+}
+
+void CChartDrawPg::AttachColorButtons() {
+  buttons_ = orv::MakePageColorButtons();
+  if (!buttons_) return;
+  for (int id : {IDC_CD_COLOR1, IDC_CD_COLOR2}) buttons_->Attach(Window(), id, OffersNoColor(id), ColorSlot(id));
+  for (int id : {IDC_CD_DOJI_COLOR, IDC_CD_BCL_COLOR, IDC_CD_GAP_COLOR}) buttons_->Attach(Window(), id, false, ColorSlot(id));
+}
+
+void CChartDrawPg::KeepButtonColors() {
+  if (!buttons_) return;
+  for (int id : kColorButtons) {
+    if (buttons_->IsAttached(id)) ColorSlot(id) = buttons_->Color(id);
+  }
+}
 
 const ChartStyleRow& CChartDrawPg::StyleRow() const {
   return props_.drawType >= 0 && props_.drawType < kDrawTypeCount ? ChartStyleTable[props_.drawType] : kNoStyle;
@@ -114,6 +134,8 @@ void CChartDrawPg::OnWindowClosing() {
   quiet_ = true;
   Exchange(true);
   quiet_ = false;
+  KeepButtonColors();
+  buttons_.reset();
   hasWindow_ = false;
 }
 
@@ -129,14 +151,17 @@ bool CChartDrawPg::OnPropertiesRead() {
   orv::Controls& c = Ctl();
   hasWindow_ = true;
   initialising_ = true;
-  // The platform's colour buttons take these colours when they are attached; a line chart's
-  // first colour may also be "none".
+  // The platform's colour buttons take the held colours; a line chart's first colour may be "none".
   noColorOnColor1_ = props_.drawType == kDrawTypeLine;
+  AttachColorButtons();
   Fill(c, IDC_CD_WEIGHT, kWeights, std::size(kWeights));
   Fill(c, IDC_CD_STYLE, kStyles, std::size(kStyles));
   c.UpDownSetRange(IDC_CD_PERIODS_SPIN, 2, 60);
   c.UpDownSetRange(IDC_CD_PCT_UP_SPIN, 10, 500);
   c.UpDownSetRange(IDC_CD_PCT_DN_SPIN, 10, 100);
+  if (buttons_) {
+    for (int id : {IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR}) buttons_->Attach(Window(), id, false, ColorSlot(id));
+  }
   c.ShowDlgItem(IDC_CD_RIBBON, true);
   Fill(c, IDC_CD_BOX_UNITS, kBoxUnits, std::size(kBoxUnits));
   c.ComboSetCurSel(IDC_CD_BOX_UNITS, props_.boxUnits);

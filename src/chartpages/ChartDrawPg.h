@@ -4,10 +4,12 @@
 // bar colouring or HLC channel analytics that type uses, and hides the rest.
 
 #include <cstdint>
+#include <memory>
 
 #include "chartpages/ChartDrawProps.h"
 #include "chartpages/ChartPage.h"
 #include "chartpages/ChartPagesRes.h"
+#include "chartpages/PageColorButtons.h"
 #include "dlgkit/DataExchange.h"
 #include "xml/Xml.h"
 
@@ -49,6 +51,8 @@ class CChartDrawPg final : public orv::ChartPageBase<CChartDrawPg> {
 
  private:
   std::uint32_t& ColorSlot(int id);
+  void AttachColorButtons();
+  void KeepButtonColors();
   std::uint32_t Flags() const;
   const ChartStyleRow& StyleRow() const;
   bool Exchange(bool save);
@@ -69,4 +73,5 @@ class CChartDrawPg final : public orv::ChartPageBase<CChartDrawPg> {
   bool quiet_ = false;  // the window is closing: a refused value says nothing
   bool noColorOnColor1_ = false;
   std::uint32_t colors_[7] = {};
+  std::unique_ptr<orv::PageColorButtons> buttons_;  // the window's, while it lives
 };
