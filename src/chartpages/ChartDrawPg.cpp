@@ -58,7 +58,8 @@ CChartDrawPg::CChartDrawPg() {
   info_.dialogId = IDD_CHART_DRAW_PG;
   info_.rootName = kRootName;
   info_.scope = 0;
-  info_.title = "Chart Draw";
+  info_.title = "Draw";
+  info_.titleId = IDS_CHART_DRAW_PG_TITLE;
 }
 
 std::uint32_t& CChartDrawPg::ColorSlot(int id) {

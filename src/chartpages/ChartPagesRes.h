@@ -3,6 +3,7 @@
 
 // The chart draw page.
 #define IDD_CHART_DRAW_PG 1358
+#define IDS_CHART_DRAW_PG_TITLE 1358
 #define IDC_CD_WEIGHT_LABEL 2622
 #define IDC_CD_WEIGHT 2623
 #define IDC_CD_STYLE_LABEL 2624

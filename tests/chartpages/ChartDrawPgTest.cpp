@@ -165,6 +165,15 @@ INSTANTIATE_TEST_SUITE_P(
                  {}, "Color:", ""},
         TypeCase{14, kCandles, {}, "Color Up:", "Color Down:"}));
 
+TEST(ChartDrawPgInfo, WhatTheFrameKnows) {
+  const CChartDrawPg page;
+  EXPECT_EQ(page.Info().dialogId, 1358);
+  EXPECT_STREQ(page.Info().rootName, "ChartDrawPg");
+  EXPECT_EQ(page.Info().scope, 0);
+  EXPECT_STREQ(page.Info().title, "Draw");
+  EXPECT_TRUE(page.CleansBeforeExchange());
+}
+
 // --- the check boxes and the box units ---
 
 TEST(ChartDrawPgRules, BarColoursFollowTheirCheckAndItsThirdState) {
