@@ -82,7 +82,8 @@ void CChartDrawPg::AttachColorButtons() {
   buttons_ = orv::MakePageColorButtons();
   if (!buttons_) return;
   for (int id : {IDC_CD_COLOR1, IDC_CD_COLOR2}) buttons_->Attach(Window(), id, OffersNoColor(id), ColorSlot(id));
-  for (int id : {IDC_CD_DOJI_COLOR, IDC_CD_BCL_COLOR, IDC_CD_GAP_COLOR}) buttons_->Attach(Window(), id, false, ColorSlot(id));
+  for (int id : {IDC_CD_DOJI_COLOR, IDC_CD_BCL_COLOR, IDC_CD_GAP_COLOR})
+    buttons_->Attach(Window(), id, false, ColorSlot(id));
 }
 
 void CChartDrawPg::KeepButtonColors() {
@@ -206,7 +207,8 @@ void CChartDrawPg::RecordsFromControls() {
   line.Weight = SelectedData(c, IDC_CD_WEIGHT);
   line.Style = SelectedData(c, IDC_CD_STYLE);
   const int selection = c.ComboGetCurSel(IDC_CD_TEXT_COLOR);
-  props_.textColorIndex = static_cast<std::int32_t>(c.ComboGetItemData(IDC_CD_TEXT_COLOR, selection < 1 ? 0 : selection));
+  props_.textColorIndex =
+      static_cast<std::int32_t>(c.ComboGetItemData(IDC_CD_TEXT_COLOR, selection < 1 ? 0 : selection));
   if (row.flags & kDrawColor1) Entry(props_.lineProps, row.key1).Color = ButtonColor(IDC_CD_COLOR1);
   if (row.flags & kDrawColor2) Entry(props_.lineProps, row.key2).Color = ButtonColor(IDC_CD_COLOR2);
   CShadeProp shade;
@@ -302,7 +304,8 @@ void CChartDrawPg::UpdateControls() {
   Show(IDC_CD_TEXT_COLOR_LABEL, (f & kDrawTextColor) != 0);
 
   const bool pointAndFigure = t == kDrawTypePointAndFigure;
-  for (int id : {IDC_CD_PF_BOX, IDC_CD_BOX_UNITS_LABEL, IDC_CD_BOX_UNITS, IDC_CD_BOX_SIZE_LABEL}) Show(id, pointAndFigure);
+  for (int id : {IDC_CD_PF_BOX, IDC_CD_BOX_UNITS_LABEL, IDC_CD_BOX_UNITS, IDC_CD_BOX_SIZE_LABEL})
+    Show(id, pointAndFigure);
   if (pointAndFigure) c.SetDlgItemTextA(IDC_CD_BOX_SIZE_LABEL, props_.boxUnits == 0 ? "Box Size:" : "Tick Count:");
   Show(IDC_CD_BOX_SIZE, pointAndFigure && props_.boxUnits == 0);
   Show(IDC_CD_TICK_COUNT, pointAndFigure && props_.boxUnits == 1);

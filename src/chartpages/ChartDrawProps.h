@@ -10,7 +10,6 @@
 #include "dlgkit/StrHash.h"
 #include "xml/Xml.h"
 
-
 // How one line of a chart type is drawn, under its line key ("Bar", "CandleStickUp", ...).
 class CLineProp {
  public:
@@ -19,7 +18,7 @@ class CLineProp {
   CLineProp& operator=(const CLineProp&) = default;
   virtual ~CLineProp() = default;
 
-  CString Name;  // written in place of the key when not empty
+  CString Name;             // written in place of the key when not empty
   std::uint32_t Color = 0;  // COLORREF, red in the low byte
   std::int32_t Style = 0;
   std::int32_t Weight = 1;

@@ -52,8 +52,8 @@ class HostConnection final : public orv::ChartPageConnection {
 };
 
 struct DrawPage {
-  explicit DrawPage(const std::string& properties) : frame(std::make_unique<CChartDrawPg>(), connection),
-                                                     page(static_cast<CChartDrawPg&>(frame.page())) {
+  explicit DrawPage(const std::string& properties)
+      : frame(std::make_unique<CChartDrawPg>(), connection), page(static_cast<CChartDrawPg&>(frame.page())) {
     connection.properties = properties;
     const orv::TemplateDialog* dialog = orv::FindTemplate(orv::templates::kDialogs, IDD_CHART_DRAW_PG);
     EXPECT_NE(dialog, nullptr);
@@ -76,28 +76,70 @@ std::string TypeDoc(int type, const std::string& chartMore = "", const std::stri
 }
 
 // Every control whose visibility depends on the draw type.
-const std::vector<int> kManaged = {
-    IDC_CD_COLOR1_LABEL, IDC_CD_COLOR1,        IDC_CD_COLOR2_LABEL,     IDC_CD_COLOR2,       IDC_CD_STYLE_LABEL,
-    IDC_CD_STYLE,        IDC_CD_TEXT_COLOR,    IDC_CD_TEXT_COLOR_LABEL, IDC_CD_SHADE,        IDC_CD_GRADIENT,
-    IDC_CD_TRANSP_LABEL, IDC_CD_TRANSP,        IDC_CD_LINE_DOTS,        IDC_CD_RIBBON,       IDC_CD_PF_BOX,
-    IDC_CD_BOX_UNITS_LABEL, IDC_CD_BOX_UNITS,  IDC_CD_BOX_SIZE_LABEL,   IDC_CD_BOX_SIZE,     IDC_CD_TICK_COUNT,
-    IDC_CD_TICK_SIZE_LABEL, IDC_CD_TICK_SIZE,  IDC_CD_REVERSAL_LABEL,   IDC_CD_REVERSAL,     IDC_CD_REVERSAL_SPIN,
-    IDC_CD_RESET,        IDC_CD_BAR_COLORS,    IDC_CD_BAR_UP_LABEL,     IDC_CD_BAR_DN_LABEL, IDC_CD_BAR_UP_PCT,
-    IDC_CD_BAR_DN_PCT,   IDC_CD_BAR_UP_COLOR_LABEL, IDC_CD_BAR_DN_COLOR_LABEL, IDC_CD_BAR_UP_COLOR,
-    IDC_CD_BAR_DN_COLOR, IDC_CD_TAILS,         IDC_CD_PERIODS_LABEL,    IDC_CD_PERIODS,      IDC_CD_PERIODS_SPIN,
-    IDC_CD_PCT_UP_LABEL, IDC_CD_PCT_UP,        IDC_CD_PCT_UP_SPIN,      IDC_CD_PCT_DN_LABEL, IDC_CD_PCT_DN,
-    IDC_CD_PCT_DN_SPIN,  IDC_CD_DOJI,          IDC_CD_DOJI_PCT,         IDC_CD_DOJI_COLOR,   IDC_CD_BCL,
-    IDC_CD_BCL_PCT,      IDC_CD_BCL_COLOR,     IDC_CD_GAP,              IDC_CD_GAP_PCT,      IDC_CD_GAP_COLOR};
+const std::vector<int> kManaged = {IDC_CD_COLOR1_LABEL,
+                                   IDC_CD_COLOR1,
+                                   IDC_CD_COLOR2_LABEL,
+                                   IDC_CD_COLOR2,
+                                   IDC_CD_STYLE_LABEL,
+                                   IDC_CD_STYLE,
+                                   IDC_CD_TEXT_COLOR,
+                                   IDC_CD_TEXT_COLOR_LABEL,
+                                   IDC_CD_SHADE,
+                                   IDC_CD_GRADIENT,
+                                   IDC_CD_TRANSP_LABEL,
+                                   IDC_CD_TRANSP,
+                                   IDC_CD_LINE_DOTS,
+                                   IDC_CD_RIBBON,
+                                   IDC_CD_PF_BOX,
+                                   IDC_CD_BOX_UNITS_LABEL,
+                                   IDC_CD_BOX_UNITS,
+                                   IDC_CD_BOX_SIZE_LABEL,
+                                   IDC_CD_BOX_SIZE,
+                                   IDC_CD_TICK_COUNT,
+                                   IDC_CD_TICK_SIZE_LABEL,
+                                   IDC_CD_TICK_SIZE,
+                                   IDC_CD_REVERSAL_LABEL,
+                                   IDC_CD_REVERSAL,
+                                   IDC_CD_REVERSAL_SPIN,
+                                   IDC_CD_RESET,
+                                   IDC_CD_BAR_COLORS,
+                                   IDC_CD_BAR_UP_LABEL,
+                                   IDC_CD_BAR_DN_LABEL,
+                                   IDC_CD_BAR_UP_PCT,
+                                   IDC_CD_BAR_DN_PCT,
+                                   IDC_CD_BAR_UP_COLOR_LABEL,
+                                   IDC_CD_BAR_DN_COLOR_LABEL,
+                                   IDC_CD_BAR_UP_COLOR,
+                                   IDC_CD_BAR_DN_COLOR,
+                                   IDC_CD_TAILS,
+                                   IDC_CD_PERIODS_LABEL,
+                                   IDC_CD_PERIODS,
+                                   IDC_CD_PERIODS_SPIN,
+                                   IDC_CD_PCT_UP_LABEL,
+                                   IDC_CD_PCT_UP,
+                                   IDC_CD_PCT_UP_SPIN,
+                                   IDC_CD_PCT_DN_LABEL,
+                                   IDC_CD_PCT_DN,
+                                   IDC_CD_PCT_DN_SPIN,
+                                   IDC_CD_DOJI,
+                                   IDC_CD_DOJI_PCT,
+                                   IDC_CD_DOJI_COLOR,
+                                   IDC_CD_BCL,
+                                   IDC_CD_BCL_PCT,
+                                   IDC_CD_BCL_COLOR,
+                                   IDC_CD_GAP,
+                                   IDC_CD_GAP_PCT,
+                                   IDC_CD_GAP_COLOR};
 
 const std::set<int> kColor1 = {IDC_CD_COLOR1_LABEL, IDC_CD_COLOR1};
 const std::set<int> kColor2 = {IDC_CD_COLOR2_LABEL, IDC_CD_COLOR2};
 const std::set<int> kText = {IDC_CD_TEXT_COLOR, IDC_CD_TEXT_COLOR_LABEL};
-const std::set<int> kPointFigure = {IDC_CD_PF_BOX,          IDC_CD_BOX_UNITS_LABEL, IDC_CD_BOX_UNITS,
-                                    IDC_CD_BOX_SIZE_LABEL,  IDC_CD_TICK_COUNT,      IDC_CD_TICK_SIZE_LABEL,
-                                    IDC_CD_TICK_SIZE,       IDC_CD_REVERSAL_LABEL,  IDC_CD_REVERSAL,
-                                    IDC_CD_REVERSAL_SPIN,   IDC_CD_RESET};
-const std::set<int> kChannels = {IDC_CD_TAILS,   IDC_CD_DOJI,    IDC_CD_DOJI_PCT,   IDC_CD_DOJI_COLOR, IDC_CD_BCL,
-                                 IDC_CD_BCL_PCT, IDC_CD_BCL_COLOR, IDC_CD_GAP,     IDC_CD_GAP_PCT,    IDC_CD_GAP_COLOR};
+const std::set<int> kPointFigure = {IDC_CD_PF_BOX,     IDC_CD_BOX_UNITS_LABEL, IDC_CD_BOX_UNITS, IDC_CD_BOX_SIZE_LABEL,
+                                    IDC_CD_TICK_COUNT, IDC_CD_TICK_SIZE_LABEL, IDC_CD_TICK_SIZE, IDC_CD_REVERSAL_LABEL,
+                                    IDC_CD_REVERSAL,   IDC_CD_REVERSAL_SPIN,   IDC_CD_RESET};
+const std::set<int> kChannels = {IDC_CD_TAILS,   IDC_CD_DOJI,     IDC_CD_DOJI_PCT,  IDC_CD_DOJI_COLOR,
+                                 IDC_CD_BCL,     IDC_CD_BCL_PCT,  IDC_CD_BCL_COLOR, IDC_CD_GAP,
+                                 IDC_CD_GAP_PCT, IDC_CD_GAP_COLOR};
 
 std::set<int> Join(std::initializer_list<std::set<int>> parts) {
   std::set<int> all;
@@ -144,14 +186,19 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         TypeCase{0,
                  Join({kColor1,
-                       {IDC_CD_BAR_COLORS, IDC_CD_BAR_UP_LABEL, IDC_CD_BAR_DN_LABEL, IDC_CD_BAR_UP_PCT, IDC_CD_BAR_DN_PCT,
-                        IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR}}),
-                 {IDC_CD_BAR_UP_PCT, IDC_CD_BAR_DN_PCT, IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR}, "Color:", ""},
+                       {IDC_CD_BAR_COLORS, IDC_CD_BAR_UP_LABEL, IDC_CD_BAR_DN_LABEL, IDC_CD_BAR_UP_PCT,
+                        IDC_CD_BAR_DN_PCT, IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR}}),
+                 {IDC_CD_BAR_UP_PCT, IDC_CD_BAR_DN_PCT, IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR},
+                 "Color:",
+                 ""},
         // The gradient check follows the boundary close check (on by default), then the shade check disables it.
-        TypeCase{1,
-                 Join({kColor1,
-                       {IDC_CD_STYLE_LABEL, IDC_CD_STYLE, IDC_CD_SHADE, IDC_CD_GRADIENT, IDC_CD_LINE_DOTS, IDC_CD_RIBBON}}),
-                 {IDC_CD_GRADIENT}, "Color:", ""},
+        TypeCase{
+            1,
+            Join({kColor1,
+                  {IDC_CD_STYLE_LABEL, IDC_CD_STYLE, IDC_CD_SHADE, IDC_CD_GRADIENT, IDC_CD_LINE_DOTS, IDC_CD_RIBBON}}),
+            {IDC_CD_GRADIENT},
+            "Color:",
+            ""},
         TypeCase{2, kCandles, {}, "Color Up:", "Color Down:"}, TypeCase{3, kColor1, {}, "Color:", ""},
         TypeCase{4, Join({kColor1, kColor2, kPointFigure}), {IDC_CD_TICK_SIZE}, "Color X:", "Color O:"},
         TypeCase{5, {}, {}, "", ""}, TypeCase{9, {}, {}, "", ""},
@@ -162,7 +209,9 @@ INSTANTIATE_TEST_SUITE_P(
                  Join({kColor1,
                        {IDC_CD_TRANSP_LABEL, IDC_CD_TRANSP, IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR,
                         IDC_CD_BAR_UP_COLOR_LABEL, IDC_CD_BAR_DN_COLOR_LABEL}}),
-                 {}, "Color:", ""},
+                 {},
+                 "Color:",
+                 ""},
         TypeCase{14, kCandles, {}, "Color Up:", "Color Down:"}));
 
 TEST(ChartDrawPgInfo, WhatTheFrameKnows) {
@@ -210,7 +259,8 @@ TEST(ChartDrawPgRules, ShadeDecidesTransparencyOfLinesOnly) {
   EXPECT_TRUE(line.Enabled(IDC_CD_GRADIENT));
   EXPECT_TRUE(line.frame.IsDirty());
 
-  DrawPage shaded(TypeDoc(10, "", "<ShadeProps><SP Name=\"DataPoints\" ShadeMode=\"1\" ShadeTransp=\"40\"/></ShadeProps>"));
+  DrawPage shaded(
+      TypeDoc(10, "", "<ShadeProps><SP Name=\"DataPoints\" ShadeMode=\"1\" ShadeTransp=\"40\"/></ShadeProps>"));
   EXPECT_TRUE(shaded.Visible(IDC_CD_TRANSP));
   EXPECT_EQ(shaded.controls.GetDlgItemTextA(IDC_CD_TRANSP, 32), "40");
   EXPECT_TRUE(shaded.Enabled(IDC_CD_GRADIENT));
@@ -230,10 +280,11 @@ TEST(ChartDrawPgRules, BoxUnitsSwapBoxSizeAndTickCount) {
 }
 
 TEST(ChartDrawPgRules, ResetTakesTheDefaults) {
-  DrawPage p("<PtFigDefList><PtFigDefBoxUnits>0</PtFigDefBoxUnits><PtFigDefBoxSize>7</PtFigDefBoxSize>"
-             "<PtFigDefTickSize>0.25</PtFigDefTickSize><PtFigDefTickCount>8</PtFigDefTickCount></PtFigDefList>" +
-             TypeDoc(4, "<PointFigure><PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>9</PF_Reversal></PointFigure>",
-                     "<CP_TxtClrIdx>0</CP_TxtClrIdx>"));
+  DrawPage p(
+      "<PtFigDefList><PtFigDefBoxUnits>0</PtFigDefBoxUnits><PtFigDefBoxSize>7</PtFigDefBoxSize>"
+      "<PtFigDefTickSize>0.25</PtFigDefTickSize><PtFigDefTickCount>8</PtFigDefTickCount></PtFigDefList>" +
+      TypeDoc(4, "<PointFigure><PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>9</PF_Reversal></PointFigure>",
+              "<CP_TxtClrIdx>0</CP_TxtClrIdx>"));
   EXPECT_EQ(p.controls.GetDlgItemTextA(IDC_CD_REVERSAL, 32), "9");
   p.controls.Click(IDC_CD_RESET);
   EXPECT_EQ(p.controls.GetDlgItemTextA(IDC_CD_REVERSAL, 32), "3");
@@ -262,7 +313,8 @@ std::string Sent(const std::string& chartProps, const std::string& pointFigure, 
          "</PointFigure>" + bars + analytics + "</Chart></BaseChart></ChartDrawPg>";
 }
 const std::string kDefaultPointFigure =
-    "<PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>3</PF_Reversal><PF_TickCount>1</PF_TickCount><PF_BoxSize>1.000000</PF_BoxSize>";
+    "<PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>3</PF_Reversal><PF_TickCount>1</PF_TickCount><PF_BoxSize>1.000000</"
+    "PF_BoxSize>";
 const std::string kDefaultBars =
     "<BarShowColors>0</BarShowColors><BarUpPcnt>20.000000</BarUpPcnt><BarDnPcnt>20.000000</BarDnPcnt>"
     "<BarUpColor>0</BarUpColor><BarDnColor>0</BarDnColor>";
@@ -315,64 +367,69 @@ TEST_P(ChartDrawPgApply, SendsTheExactDocument) {
 INSTANTIATE_TEST_SUITE_P(
     LoadChangeApply, ChartDrawPgApply,
     testing::Values(
-        ApplyCase{"LineWeightAndColour",
-                  "<BaseChart><Chart><ChartShowPriceBox>1</ChartShowPriceBox><ChartProps><CP_DrawType>1</CP_DrawType>"
-                  "<CP_TxtClrIdx>0</CP_TxtClrIdx><LineDots>1</LineDots><Ribbon>5</Ribbon><LineProps>"
-                  "<LP Name=\"Line\" Color=\"255\" Weight=\"2\" Style=\"1\" Flags=\"7\"/></LineProps><ShadeProps>"
-                  "<SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"30\" Gradient=\"1\"/></ShadeProps></ChartProps>"
-                  "<BarUpColor>11</BarUpColor><BarDnColor>12</BarDnColor></Chart></BaseChart>",
-                  [](DrawPage& p) {
-                    p.controls.SelectComboItem(IDC_CD_WEIGHT, 2);
-                    p.page.SetButtonColor(IDC_CD_COLOR1, 0x123456);
-                    p.controls.Click(IDC_CD_COLOR1);
-                  },
-                  Sent("<CP_DrawType>1</CP_DrawType><CP_TxtClrIdx>0</CP_TxtClrIdx><LineDots>1</LineDots><Ribbon>0</Ribbon>"
-                       "<LineProps><LP Name=\"Line\" Color=\"1193046\" Weight=\"3\" Style=\"1\" Flags=\"7\"/></LineProps>"
-                       "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"30\" Gradient=\"1\"/></ShadeProps>",
-                       kDefaultPointFigure,
-                       "<BarShowColors>0</BarShowColors><BarUpPcnt>20.000000</BarUpPcnt><BarDnPcnt>20.000000</BarDnPcnt>"
-                       "<BarUpColor>11</BarUpColor><BarDnColor>12</BarDnColor>",
-                       kAnalytics, "1")},
-        ApplyCase{"OlderColorPropsComeBackAsLineProps",
-                  TypeDoc(2, "", "<CP_LineWeight>3</CP_LineWeight><ColorProps><ClrProp Name=\"CandleStickUp\" "
-                                 "Color=\"65280\"/></ColorProps>"),
-                  [](DrawPage& p) { p.controls.SelectComboItem(IDC_CD_TEXT_COLOR, 0); },
-                  Sent("<CP_DrawType>2</CP_DrawType><CP_TxtClrIdx>0</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                       "<LineProps><LP Name=\"CandleStickUp\" Color=\"65280\" Weight=\"3\" Style=\"0\" Flags=\"0\"/>"
-                       "<LP Name=\"CandleStickDn\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                       "<ShadeProps><SP Name=\"CandleStick\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
-                       kDefaultPointFigure, kDefaultBars)},
-        ApplyCase{"TransparencyAbove100",
-                  TypeDoc(1, "", "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\"/></ShadeProps>"),
-                  [](DrawPage& p) { p.controls.TypeText(IDC_CD_TRANSP, "150"); },
-                  Sent("<CP_DrawType>1</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                       "<LineProps><LP Name=\"Line\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                       "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"100\" Gradient=\"0\"/></ShadeProps>",
-                       kDefaultPointFigure, kDefaultBars)},
-        ApplyCase{"TransparencyBelow0",
-                  TypeDoc(1, "", "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\"/></ShadeProps>"),
-                  [](DrawPage& p) { p.controls.TypeText(IDC_CD_TRANSP, "-5"); },
-                  Sent("<CP_DrawType>1</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                       "<LineProps><LP Name=\"Line\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                       "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
-                       kDefaultPointFigure, kDefaultBars)},
-        ApplyCase{"TickUnitsWriteTicksTimesTickSize",
-                  TypeDoc(4, "<PointFigure><PF_BoxUnits>1</PF_BoxUnits><PF_TickCount>4</PF_TickCount>"
-                             "<PF_BoxSize>2.0</PF_BoxSize></PointFigure>"),
-                  [](DrawPage& p) { p.controls.TypeText(IDC_CD_REVERSAL, "5"); },
-                  Sent("<CP_DrawType>4</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                       "<LineProps><LP Name=\"PtAndFigUp\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"
-                       "<LP Name=\"PtAndFigDn\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                       "<ShadeProps><SP Name=\"PtAndFig\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
-                       "<PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>5</PF_Reversal><PF_TickCount>4</PF_TickCount>"
-                       "<PF_BoxSize>2.000000</PF_BoxSize>",
-                       kDefaultBars)},
-        ApplyCase{"EmptyTypeUsesTheEmptyKey", TypeDoc(5),
-                  [](DrawPage& p) { p.controls.SelectComboItem(IDC_CD_WEIGHT, 1); },
-                  Sent("<CP_DrawType>5</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                       "<LineProps><LP Name=\"\" Color=\"0\" Weight=\"2\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                       "<ShadeProps><SP Name=\"CandleVol\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
-                       kDefaultPointFigure, kDefaultBars)}),
+        ApplyCase{
+            "LineWeightAndColour",
+            "<BaseChart><Chart><ChartShowPriceBox>1</ChartShowPriceBox><ChartProps><CP_DrawType>1</CP_DrawType>"
+            "<CP_TxtClrIdx>0</CP_TxtClrIdx><LineDots>1</LineDots><Ribbon>5</Ribbon><LineProps>"
+            "<LP Name=\"Line\" Color=\"255\" Weight=\"2\" Style=\"1\" Flags=\"7\"/></LineProps><ShadeProps>"
+            "<SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"30\" Gradient=\"1\"/></ShadeProps></ChartProps>"
+            "<BarUpColor>11</BarUpColor><BarDnColor>12</BarDnColor></Chart></BaseChart>",
+            [](DrawPage& p) {
+              p.controls.SelectComboItem(IDC_CD_WEIGHT, 2);
+              p.page.SetButtonColor(IDC_CD_COLOR1, 0x123456);
+              p.controls.Click(IDC_CD_COLOR1);
+            },
+            Sent("<CP_DrawType>1</CP_DrawType><CP_TxtClrIdx>0</CP_TxtClrIdx><LineDots>1</LineDots><Ribbon>0</Ribbon>"
+                 "<LineProps><LP Name=\"Line\" Color=\"1193046\" Weight=\"3\" Style=\"1\" Flags=\"7\"/></LineProps>"
+                 "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"30\" Gradient=\"1\"/></ShadeProps>",
+                 kDefaultPointFigure,
+                 "<BarShowColors>0</BarShowColors><BarUpPcnt>20.000000</BarUpPcnt><BarDnPcnt>20.000000</BarDnPcnt>"
+                 "<BarUpColor>11</BarUpColor><BarDnColor>12</BarDnColor>",
+                 kAnalytics, "1")},
+        ApplyCase{
+            "OlderColorPropsComeBackAsLineProps",
+            TypeDoc(2, "",
+                    "<CP_LineWeight>3</CP_LineWeight><ColorProps><ClrProp Name=\"CandleStickUp\" "
+                    "Color=\"65280\"/></ColorProps>"),
+            [](DrawPage& p) { p.controls.SelectComboItem(IDC_CD_TEXT_COLOR, 0); },
+            Sent("<CP_DrawType>2</CP_DrawType><CP_TxtClrIdx>0</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
+                 "<LineProps><LP Name=\"CandleStickUp\" Color=\"65280\" Weight=\"3\" Style=\"0\" Flags=\"0\"/>"
+                 "<LP Name=\"CandleStickDn\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
+                 "<ShadeProps><SP Name=\"CandleStick\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
+                 kDefaultPointFigure, kDefaultBars)},
+        ApplyCase{
+            "TransparencyAbove100", TypeDoc(1, "", "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\"/></ShadeProps>"),
+            [](DrawPage& p) { p.controls.TypeText(IDC_CD_TRANSP, "150"); },
+            Sent("<CP_DrawType>1</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
+                 "<LineProps><LP Name=\"Line\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
+                 "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"100\" Gradient=\"0\"/></ShadeProps>",
+                 kDefaultPointFigure, kDefaultBars)},
+        ApplyCase{
+            "TransparencyBelow0", TypeDoc(1, "", "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\"/></ShadeProps>"),
+            [](DrawPage& p) { p.controls.TypeText(IDC_CD_TRANSP, "-5"); },
+            Sent("<CP_DrawType>1</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
+                 "<LineProps><LP Name=\"Line\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
+                 "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
+                 kDefaultPointFigure, kDefaultBars)},
+        ApplyCase{
+            "TickUnitsWriteTicksTimesTickSize",
+            TypeDoc(4,
+                    "<PointFigure><PF_BoxUnits>1</PF_BoxUnits><PF_TickCount>4</PF_TickCount>"
+                    "<PF_BoxSize>2.0</PF_BoxSize></PointFigure>"),
+            [](DrawPage& p) { p.controls.TypeText(IDC_CD_REVERSAL, "5"); },
+            Sent("<CP_DrawType>4</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
+                 "<LineProps><LP Name=\"PtAndFigUp\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"
+                 "<LP Name=\"PtAndFigDn\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
+                 "<ShadeProps><SP Name=\"PtAndFig\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
+                 "<PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>5</PF_Reversal><PF_TickCount>4</PF_TickCount>"
+                 "<PF_BoxSize>2.000000</PF_BoxSize>",
+                 kDefaultBars)},
+        ApplyCase{
+            "EmptyTypeUsesTheEmptyKey", TypeDoc(5), [](DrawPage& p) { p.controls.SelectComboItem(IDC_CD_WEIGHT, 1); },
+            Sent("<CP_DrawType>5</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
+                 "<LineProps><LP Name=\"\" Color=\"0\" Weight=\"2\" Style=\"0\" Flags=\"0\"/></LineProps>"
+                 "<ShadeProps><SP Name=\"CandleVol\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
+                 kDefaultPointFigure, kDefaultBars)}),
     [](const testing::TestParamInfo<ApplyCase>& info) { return std::string(info.param.name); });
 
 // --- the validators ---

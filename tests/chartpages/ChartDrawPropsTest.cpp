@@ -120,7 +120,8 @@ INSTANTIATE_TEST_SUITE_P(
                    EXPECT_EQ(p.defReversal, 3);
                    EXPECT_EQ(p.boxUnits, 1) << "the defaults are not the values";
                  }},
-        ReadCase{"PriceBox", "<Chart><ChartShowPriceBox>1</ChartShowPriceBox><ChartShowFloatWnd>0</ChartShowFloatWnd></Chart>",
+        ReadCase{"PriceBox",
+                 "<Chart><ChartShowPriceBox>1</ChartShowPriceBox><ChartShowFloatWnd>0</ChartShowFloatWnd></Chart>",
                  [](const ChartDrawProps& p) { EXPECT_TRUE(p.showPriceBox); }},
         ReadCase{"PriceBoxFromTheOlderKey", "<Chart><ChartShowFloatWnd>TRUE</ChartShowFloatWnd></Chart>",
                  [](const ChartDrawProps& p) { EXPECT_TRUE(p.showPriceBox); }},
@@ -287,16 +288,17 @@ INSTANTIATE_TEST_SUITE_P(
                   },
                   "<PF_BoxUnits>0</PF_BoxUnits><PF_Reversal>3</PF_Reversal><PF_TickCount>4</PF_TickCount>"
                   "<PF_BoxSize>9.000000</PF_BoxSize>"},
-        WriteCase{"LineNameOrKey",
-                  [](ChartDrawProps& p) {
-                    CLineProp line;
-                    line.Color = 0xFFFFFFFFu;
-                    line.Weight = 2;
-                    line.Style = 3;
-                    line.Flags = 5;
-                    p.lineProps.SetAt("Bar", line);
-                  },
-                  "<LineProps><LP Name=\"Bar\" Color=\"4294967295\" Weight=\"2\" Style=\"3\" Flags=\"5\"/></LineProps>"},
+        WriteCase{
+            "LineNameOrKey",
+            [](ChartDrawProps& p) {
+              CLineProp line;
+              line.Color = 0xFFFFFFFFu;
+              line.Weight = 2;
+              line.Style = 3;
+              line.Flags = 5;
+              p.lineProps.SetAt("Bar", line);
+            },
+            "<LineProps><LP Name=\"Bar\" Color=\"4294967295\" Weight=\"2\" Style=\"3\" Flags=\"5\"/></LineProps>"},
         WriteCase{"LineOwnNameWins",
                   [](ChartDrawProps& p) {
                     CLineProp line;
