@@ -2,14 +2,20 @@
 
 #include "OrvChartDlgs_h.h"
 #include "host/ChartPagesObject.h"
+#ifdef ORV_HAVE_CHART_PAGES
+#include "chartpages/ChartDrawPg.h"
+#include "host/PropertyPage.h"
+#endif
 
 namespace orv::host {
 
 // ChartPages is served once the objects' library is part of the build.
 #ifdef ORV_HAVE_CHART_PAGES
 constexpr CreatorFn kChartPagesCreator = &CreateChartPages;
+constexpr CreatorFn kChartDrawPgCreator = &CreateChartPage<CChartDrawPg>;
 #else
 constexpr CreatorFn kChartPagesCreator = nullptr;
+constexpr CreatorFn kChartDrawPgCreator = nullptr;
 #endif
 
 // The script-driven classes take their whole state from the calling host (a document, chart
@@ -25,7 +31,7 @@ constexpr std::span<const GUID> kNone;
 const ClassEntry kClasses[] = {
     {&CLSID_ChartPages, L"ChartPages", L"ChartPages Class", true, kScriptSafe, kNone, kChartPagesCreator},
     {&CLSID_CmnDateRangeDlg, L"CmnDateRangeDlg", L"CmnDateRangeDlg Class", true, kScriptSafe, kNone, nullptr},
-    {&CLSID_ChartDrawPg, L"ChartDrawPg", L"ChartDrawPg Class", false, kNone, kNone, nullptr},
+    {&CLSID_ChartDrawPg, L"ChartDrawPg", L"ChartDrawPg Class", false, kNone, kNone, kChartDrawPgCreator},
     {&CLSID_ChartGenPpg, L"ChartGenPpg", L"ChartGenPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_DataWndPg, L"DataWndPg", L"DataWndPg Class", false, kNone, kNone, nullptr},
     {&CLSID_GenXAxisPpg, L"GenXAxisPpg", L"GenXAxisPpg Class", false, kNone, kNone, nullptr},

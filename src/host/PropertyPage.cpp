@@ -8,6 +8,7 @@
 #include "com/WideText.h"
 #include "host/ActivationContext.h"
 #include "host/ComError.h"
+#include "host/PageColorButtonsWin32.h"
 #include "xml/msxml/XmlMsxml.h"
 
 namespace orv::host {
@@ -297,6 +298,8 @@ HRESULT CreateChartPropertyPage(IUnknown* outer, REFIID iid, void** object, Char
   // An aggregating outer must take the inner unknown, and only that.
   if (outer != nullptr && !IsEqualIID(iid, IID_IUnknown)) return CLASS_E_NOAGGREGATION;
   CChartPropertyPage* created = nullptr;
+  // A page's colour buttons are the platform's.
+  orv::SetPageColorButtonsMaker(&MakeWin32PageColorButtons);
   try {
     created = new CChartPropertyPage(outer, make());
   } catch (const std::bad_alloc&) {

@@ -29,15 +29,19 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/HostApp.manifest.sample ${ORV_MANIFEST_
 set(ORV_HOST_APP_MANIFEST ${ORV_MANIFEST_DIR}/HostApp.manifest CACHE INTERNAL
   "a host program's manifest that names the OrvChartDlgs assembly (registration-free use)")
 
-# The dialog templates of the line study pages and of the seasonal wizard join the DLL's
+# The dialog templates of the line study pages, the chart pages and the seasonal wizard join the DLL's
 # resources once they exist; the globs make CMake look again when a file appears.
 file(GLOB orv_linestudies_rc CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/linestudies/*.rc ${PROJECT_SOURCE_DIR}/src/linestudies/*.h)
+file(GLOB orv_chartpages_rc CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/chartpages/*.rc ${PROJECT_SOURCE_DIR}/src/chartpages/*.h)
 file(GLOB orv_seasonal_rc CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/seasonal/*.rc ${PROJECT_SOURCE_DIR}/src/seasonal/*.h)
 set(orv_rc_depends ${ORV_TYPELIB} ${ORV_MANIFEST_DIR}/OrvChartDlgs.manifest ${CMAKE_CURRENT_LIST_DIR}/OrvChartDlgs.ui.manifest
-  ${orv_linestudies_rc} ${orv_seasonal_rc} ${PROJECT_SOURCE_DIR}/src/dlgkit/win32/ColorPicker.rc)
+  ${orv_linestudies_rc} ${orv_seasonal_rc} ${orv_chartpages_rc} ${PROJECT_SOURCE_DIR}/src/dlgkit/win32/ColorPicker.rc)
 set(orv_rc_definitions)
 if(EXISTS ${PROJECT_SOURCE_DIR}/src/linestudies/LineStudies.rc)
   list(APPEND orv_rc_definitions ORV_HAVE_LINESTUDIES_RC)
+endif()
+if(EXISTS ${PROJECT_SOURCE_DIR}/src/chartpages/ChartPages.rc)
+  list(APPEND orv_rc_definitions ORV_HAVE_CHARTPAGES_RC)
 endif()
 if(EXISTS ${PROJECT_SOURCE_DIR}/src/seasonal/Seasonal.rc)
   list(APPEND orv_rc_definitions ORV_HAVE_SEASONAL_RC)

@@ -23,6 +23,7 @@ using orv::ComPtr;
 using Listing = std::set<std::wstring>;
 
 const wchar_t kChartPages[] = L"{938D688E-9268-4672-87AC-842DD8A62AA8}";
+const wchar_t kChartDrawPg[] = L"{6D73A8E6-1A90-438E-A317-B76226F7B7EA}";
 const wchar_t kAppId[] = L"{DA578EB6-B0B1-4578-9E6B-6F6529BB5929}";
 const wchar_t kTypeLib[] = L"{6A2CB4D9-8647-4339-8E26-82D3E724F0D1}";
 
@@ -101,10 +102,12 @@ Listing Under(const Listing& listing, const std::wstring& prefix) {
   return out;
 }
 
-// The class registration of ChartPages, the one class served today, letter for letter.
+// The class registration of the served classes, letter for letter: ChartPages (programmable,
+// safe for scripting) and the chart draw page (made by a property frame only).
 Listing ExpectedClassKeys(const std::wstring& dll) {
   const std::wstring c = L"Software\\Classes\\";
   const std::wstring k = c + L"CLSID\\" + kChartPages;
+  const std::wstring d = c + L"CLSID\\" + kChartDrawPg;
   return {
       c + L"OrvChartDlgs.ChartPages",
       c + L"OrvChartDlgs.ChartPages|=ChartPages Class",
@@ -136,6 +139,30 @@ Listing ExpectedClassKeys(const std::wstring& dll) {
       k + L"\\Implemented Categories\\{7DD95802-9882-11CF-9FA9-00AA006C42C4}",
       c + L"AppID\\" + kAppId,
       c + L"AppID\\" + kAppId + L"|=OrvChartDlgs",
+      c + L"OrvChartDlgs.ChartDrawPg",
+      c + L"OrvChartDlgs.ChartDrawPg|=ChartDrawPg Class",
+      c + L"OrvChartDlgs.ChartDrawPg\\CLSID",
+      c + L"OrvChartDlgs.ChartDrawPg\\CLSID|=" + kChartDrawPg,
+      c + L"OrvChartDlgs.ChartDrawPg\\CurVer",
+      c + L"OrvChartDlgs.ChartDrawPg\\CurVer|=OrvChartDlgs.ChartDrawPg.1",
+      c + L"OrvChartDlgs.ChartDrawPg.1",
+      c + L"OrvChartDlgs.ChartDrawPg.1|=ChartDrawPg Class",
+      c + L"OrvChartDlgs.ChartDrawPg.1\\CLSID",
+      c + L"OrvChartDlgs.ChartDrawPg.1\\CLSID|=" + kChartDrawPg,
+      d,
+      d + L"|=ChartDrawPg Class",
+      d + L"|AppID=" + kAppId,
+      d + L"\\ProgID",
+      d + L"\\ProgID|=OrvChartDlgs.ChartDrawPg.1",
+      d + L"\\VersionIndependentProgID",
+      d + L"\\VersionIndependentProgID|=OrvChartDlgs.ChartDrawPg",
+      d + L"\\InprocServer32",
+      d + L"\\InprocServer32|=" + dll,
+      d + L"\\InprocServer32|ThreadingModel=Apartment",
+      d + L"\\TypeLib",
+      d + L"\\TypeLib|=" + kTypeLib,
+      d + L"\\Version",
+      d + L"\\Version|=1.0",
   };
 }
 

@@ -47,3 +47,10 @@ add_test(NAME host_e2e_pageframe
   COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/pageframe.sh $<TARGET_FILE:orvhost> $<TARGET_FILE:orv_sample_pages>
     ${CMAKE_CURRENT_LIST_DIR}/e2e)
 set_tests_properties(host_e2e_pageframe PROPERTIES LABELS wine TIMEOUT 300)
+
+# The component's chart draw page shown by orvhost in its own frame, straight from the DLL: its
+# properties served from a document, scripted changes, what the page hands back exactly.
+add_test(NAME host_e2e_chartdraw
+  COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/chartdraw.sh $<TARGET_FILE:orvhost> $<TARGET_FILE:OrvChartDlgs>
+    ${CMAKE_CURRENT_LIST_DIR}/e2e)
+set_tests_properties(host_e2e_chartdraw PROPERTIES LABELS wine TIMEOUT 300)
