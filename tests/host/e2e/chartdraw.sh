@@ -14,11 +14,7 @@ trap 'rm -f "$out" "$err"' EXIT
 
 . "$(dirname "$0")/orvhost-case.sh"
 
-page_case() {
-  name=$1 code=$2 expected=$3
-  shift 3
-  case_ "$name" "$code" "$expected" --activate direct --dll "$dll" --page "{6D73A8E6-1A90-438E-A317-B76226F7B7EA}" "$@"
-}
+page_class="{6D73A8E6-1A90-438E-A317-B76226F7B7EA}"
 doc=$(winepath -w "$docs/chart-draw.xml")
 read="GetPageProperties: 0 ChartDrawPg found"
 analytics="<AnalyticsInfo><RagnarTails>0</RagnarTails><RagnarPeriods>5</RagnarPeriods><RagnarPercentUp>25</RagnarPercentUp><RagnarPercentDn>10</RagnarPercentDn><RagnarDoji>1</RagnarDoji><RagnarBCL>1</RagnarBCL><ColorDoji>42495</ColorDoji><ColorBCL>42495</ColorBCL><DojiPct>5.000000</DojiPct><BCLPCT>5.000000</BCLPCT><ShowCOGap>1</ShowCOGap><PctCOGap>5.000000</PctCOGap><ColorCOGap>65280</ColorCOGap></AnalyticsInfo>"

@@ -29,3 +29,11 @@ case_() {
     failures=$((failures + 1))
   fi
 }
+
+# page_case <name> <expected exit code> <expected output> <more orvhost arguments...>: one case
+# of orvhost as the property frame of the page class $page_class from the DLL $dll.
+page_case() {
+  page_case_name=$1 page_case_code=$2 page_case_expected=$3
+  shift 3
+  case_ "$page_case_name" "$page_case_code" "$page_case_expected" --activate direct --dll "$dll" --page "$page_class" "$@"
+}

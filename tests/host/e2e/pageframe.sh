@@ -15,12 +15,7 @@ trap 'rm -f "$out" "$err"' EXIT
 
 . "$(dirname "$0")/orvhost-case.sh"
 
-# page_case <name> <expected exit code> <expected output> <more orvhost arguments...>
-page_case() {
-  name=$1 code=$2 expected=$3
-  shift 3
-  case_ "$name" "$code" "$expected" --activate direct --dll "$dll" --page "{5E1F0C2A-7B3D-4C8E-9A61-0D2B4F6A8C13}" "$@"
-}
+page_class="{5E1F0C2A-7B3D-4C8E-9A61-0D2B4F6A8C13}"
 doc=$(winepath -w "$docs/sample-page.xml")
 read="GetPageProperties: 0 SampleChartPg found"
 sent() { printf 'SetPageProperties: 0 <SampleChartPg><Value>%s</Value><Flag>%s</Flag></SampleChartPg>' "$1" "$2"; }
