@@ -107,6 +107,8 @@ void CChartDrawPg::Load(XmlNode root) {
   props_.Read(root);
   SetButtonColor(IDC_CD_BAR_UP_COLOR, props_.barUpColor);
   SetButtonColor(IDC_CD_BAR_DN_COLOR, props_.barDnColor);
+  // The analytics' buttons take their colours only from an "AnalyticsInfo" that was there.
+  if (!props_.analyticsRead) return;
   SetButtonColor(IDC_CD_DOJI_COLOR, props_.analytics.DojiColor);
   SetButtonColor(IDC_CD_BCL_COLOR, props_.analytics.BclColor);
   SetButtonColor(IDC_CD_GAP_COLOR, props_.analytics.GapColor);

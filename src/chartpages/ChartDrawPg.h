@@ -72,6 +72,7 @@ class CChartDrawPg final : public orv::ChartPageBase<CChartDrawPg> {
   bool hasWindow_ = false;
   bool quiet_ = false;  // the window is closing: a refused value says nothing
   bool noColorOnColor1_ = false;
-  std::uint32_t colors_[7] = {};
+  // The colour buttons' colours; a button starts white.
+  std::uint32_t colors_[7] = {0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF};
   std::unique_ptr<orv::PageColorButtons> buttons_;  // the window's, while it lives
 };

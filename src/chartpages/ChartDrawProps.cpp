@@ -217,7 +217,9 @@ void ChartDrawProps::Read(XmlNode root) {
   XmlGetChildValue(chart, "BarDnColor", color);
   barDnColor = static_cast<std::uint32_t>(color);
 
+  analyticsRead = false;
   if (XmlNode info = XmlFindNode(chart, "AnalyticsInfo", true)) {
+    analyticsRead = true;
     analytics.Read(info);
     // The channel colours of older documents: only into lines the page already has.
     const ChartStyleRow& channels = ChartStyleTable[kDrawTypeHlcChannels];

@@ -124,8 +124,10 @@ struct ChartDrawProps {
   std::int32_t lineDots = 0;
   std::int32_t ribbon = 0;
   CAnalytics analytics;
-  std::uint32_t barUpColor = 0;
-  std::uint32_t barDnColor = 0;
+  bool analyticsRead = false;  // the last Read found "AnalyticsInfo"
+  // A document without them leaves the colour buttons at their own white.
+  std::uint32_t barUpColor = 0xFFFFFF;
+  std::uint32_t barDnColor = 0xFFFFFF;
 
   // Reads the page's root element. Without "Chart" below it raises XmlComError (E_POINTER).
   void Read(XmlNode root);

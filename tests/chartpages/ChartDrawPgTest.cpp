@@ -299,12 +299,14 @@ TEST(ChartDrawPgRules, ResetTakesTheDefaults) {
 
 // --- load, a change, Apply: what the host gets ---
 
+// A document without "AnalyticsInfo" leaves the analytics' colour buttons white, and one without
+// "BarUpColor" and "BarDnColor" the bar colour buttons: that is what comes back.
 const std::string kAnalytics =
     "<AnalyticsInfo><RagnarTails>0</RagnarTails><RagnarPeriods>5</RagnarPeriods>"
     "<RagnarPercentUp>25</RagnarPercentUp><RagnarPercentDn>10</RagnarPercentDn><RagnarDoji>1</RagnarDoji>"
-    "<RagnarBCL>1</RagnarBCL><ColorDoji>42495</ColorDoji><ColorBCL>42495</ColorBCL><DojiPct>5.000000</DojiPct>"
+    "<RagnarBCL>1</RagnarBCL><ColorDoji>16777215</ColorDoji><ColorBCL>16777215</ColorBCL><DojiPct>5.000000</DojiPct>"
     "<BCLPCT>5.000000</BCLPCT><ShowCOGap>1</ShowCOGap><PctCOGap>5.000000</PctCOGap>"
-    "<ColorCOGap>65280</ColorCOGap></AnalyticsInfo>";
+    "<ColorCOGap>16777215</ColorCOGap></AnalyticsInfo>";
 
 std::string Sent(const std::string& chartProps, const std::string& pointFigure, const std::string& bars,
                  const std::string& analytics = kAnalytics, const char* priceBox = "0") {
@@ -317,7 +319,7 @@ const std::string kDefaultPointFigure =
     "PF_BoxSize>";
 const std::string kDefaultBars =
     "<BarShowColors>0</BarShowColors><BarUpPcnt>20.000000</BarUpPcnt><BarDnPcnt>20.000000</BarDnPcnt>"
-    "<BarUpColor>0</BarUpColor><BarDnColor>0</BarDnColor>";
+    "<BarUpColor>16777215</BarUpColor><BarDnColor>16777215</BarDnColor>";
 
 struct ApplyCase {
   const char* name;
@@ -427,7 +429,8 @@ INSTANTIATE_TEST_SUITE_P(
         ApplyCase{
             "EmptyTypeUsesTheEmptyKey", TypeDoc(5), [](DrawPage& p) { p.controls.SelectComboItem(IDC_CD_WEIGHT, 1); },
             Sent("<CP_DrawType>5</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                 "<LineProps><LP Name=\"\" Color=\"0\" Weight=\"2\" Style=\"0\" Flags=\"0\"/></LineProps>"
+                 // No line of its own: the colour button's white comes back.
+                 "<LineProps><LP Name=\"\" Color=\"16777215\" Weight=\"2\" Style=\"0\" Flags=\"0\"/></LineProps>"
                  "<ShadeProps><SP Name=\"CandleVol\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
                  kDefaultPointFigure, kDefaultBars)}),
     [](const testing::TestParamInfo<ApplyCase>& info) { return std::string(info.param.name); });
@@ -533,6 +536,8 @@ TEST(ChartDrawPgButtons, AttachesEveryButtonAndSendsWhatTheyHold) {
     EXPECT_EQ(attached.at(IDC_CD_COLOR1).color, 33u);
     EXPECT_EQ(attached.at(IDC_CD_BAR_UP_COLOR).color, 11u);
     EXPECT_EQ(attached.at(IDC_CD_DOJI_COLOR).color, 22u);
+    EXPECT_EQ(attached.at(IDC_CD_BCL_COLOR).color, 0x00A5FFu) << "an AnalyticsInfo was there: its defaults";
+    EXPECT_EQ(attached.at(IDC_CD_BAR_DN_COLOR).color, 0xFFFFFFu) << "no BarDnColor: the button's white";
     attached.at(IDC_CD_COLOR1).color = 44;  // the user's pick in the drop-down
     attached.at(IDC_CD_GAP_COLOR).color = 55;
     p.controls.Click(IDC_CD_COLOR1);

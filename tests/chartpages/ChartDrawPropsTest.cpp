@@ -41,7 +41,7 @@ const std::string kDefaultDocument =
     "<CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon><LineProps/><ShadeProps/></ChartProps>"
     "<PointFigure><PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>3</PF_Reversal><PF_TickCount>1</PF_TickCount>"
     "<PF_BoxSize>1.000000</PF_BoxSize></PointFigure><BarShowColors>0</BarShowColors><BarUpPcnt>20.000000</BarUpPcnt>"
-    "<BarDnPcnt>20.000000</BarDnPcnt><BarUpColor>0</BarUpColor><BarDnColor>0</BarDnColor>" +
+    "<BarDnPcnt>20.000000</BarDnPcnt><BarUpColor>16777215</BarUpColor><BarDnColor>16777215</BarDnColor>" +
     kDefaultAnalytics + "</Chart></BaseChart></ChartDrawPg>";
 
 TEST(ChartDrawPropsDefaults, WriteEveryKeyWithItsDefault) { EXPECT_EQ(Written(ChartDrawProps{}), kDefaultDocument); }
