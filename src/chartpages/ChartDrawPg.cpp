@@ -173,9 +173,14 @@ bool CChartDrawPg::OnPropertiesRead() {
   c.ComboSetCurSel(IDC_CD_TEXT_COLOR, props_.boxUnits);  // the exchange below selects the real one
   c.UpDownSetRange(IDC_CD_REVERSAL_SPIN, 1, 10000);
   c.UpDownSetPos(IDC_CD_REVERSAL_SPIN, props_.reversal);
+  return true;
+}
+
+// The controls are themed: the fields go to them, then the rules of what is shown.
+bool CChartDrawPg::OnControlsThemed() {
   Exchange(false);
   UpdateControls();
-  c.EnableDlgItem(IDC_CD_GRADIENT, Checked(IDC_CD_SHADE));
+  Ctl().EnableDlgItem(IDC_CD_GRADIENT, Checked(IDC_CD_SHADE));
   initialising_ = false;
   return true;
 }

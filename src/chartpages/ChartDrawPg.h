@@ -48,6 +48,7 @@ class CChartDrawPg final : public orv::ChartPageBase<CChartDrawPg> {
 
  protected:
   bool OnPropertiesRead() override;
+  bool OnControlsThemed() override;
 
  private:
   std::uint32_t& ColorSlot(int id);

@@ -148,8 +148,9 @@ class ChartPageFrame final : public Page {
 };
 
 // The base of a chart page class: a themed page that stands in a ChartPageFrame. Its init reads
-// the properties first (ReadProperties), then fills the controls (OnPropertiesRead); the kit
-// themes the controls after that, and the frame ends the opening.
+// the properties first (ReadProperties) and prepares the controls (OnPropertiesRead: lists,
+// ranges, colour buttons); the kit then themes the controls, the page moves its fields to them
+// (OnControlsThemed), and the frame ends the opening.
 template <class T>
 class ChartPageBase : public ThemedPage<T>, public ChartPage {
  public:
@@ -166,8 +167,11 @@ class ChartPageBase : public ThemedPage<T>, public ChartPage {
     Frame().ReadProperties();
     return OnPropertiesRead();
   }
-  // Fills the controls from the fields the page read (or its defaults).
+  bool OnThemed(bool initResult) final { return OnControlsThemed() && initResult; }
+  // Prepares the controls before they are themed (lists, ranges, owner-drawn buttons).
   virtual bool OnPropertiesRead() { return true; }
+  // Fills the themed controls from the fields the page read (or its defaults).
+  virtual bool OnControlsThemed() { return true; }
 };
 
 }  // namespace orv

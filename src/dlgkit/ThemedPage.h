@@ -42,7 +42,7 @@ class ThemedPage : public Page, public COrvDialog<T>, public CWinDataExchangeZel
       const bool result = OnInitPage();
       this->SubclassControls();
       this->LoadTheme();
-      return result;
+      return OnThemed(result);
     }
     this->SubclassControls();
     this->LoadTheme();
@@ -69,6 +69,9 @@ class ThemedPage : public Page, public COrvDialog<T>, public CWinDataExchangeZel
   // True for pages whose own start runs before their children are themed (the wizard's pages);
   // by default the children are themed first.
   virtual bool InitBeforeTheme() const { return false; }
+  // With InitBeforeTheme: the rest of the page's start, once its children are themed; given and
+  // answering what OnInitDialog returns.
+  virtual bool OnThemed(bool initResult) { return initResult; }
 
  private:
   Controls* controls_ = nullptr;
