@@ -12,6 +12,7 @@ entries=$root/apps/orvhost/gallery/entries.txt
 docs=$root/apps/orvhost/gallery
 out=$root/build/gallery
 exe=$root/build/win64/bin/orvhost.exe
+dll=$root/build/win64/bin/OrvChartDlgs.dll
 
 build=1 inside=0
 only=()
@@ -58,10 +59,17 @@ while IFS= read -r line; do
   png=$out/$name.png
   rm -f "$png"
   cp "$docs/$doc" "$out/docs/$doc"
-  # The arguments as orvhost gets them: quotes kept together, @png the picture's Windows path.
+  # The arguments as orvhost gets them: quotes kept together, @png the picture's Windows path,
+  # @dll the component's (for a standalone page, which orvhost makes straight from the DLL).
   eval "set -- $arguments"
   run=()
-  for a in "$@"; do [ "$a" = @png ] && run+=("$(winepath -w "$png")") || run+=("$a"); done
+  for a in "$@"; do
+    case "$a" in
+      @png) run+=("$(winepath -w "$png")") ;;
+      @dll) run+=("$(winepath -w "$dll")") ;;
+      *) run+=("$a") ;;
+    esac
+  done
   rc=0
   wine "$exe" --doc "$(winepath -w "$docs/$doc")" "${run[@]}" >"$work/out.txt" 2>&1 || rc=$?
   if [ "$rc" = 0 ] && [ -s "$png" ]; then
@@ -91,7 +99,9 @@ img { border: 1px solid #ccc; }
 </style></head><body>
 <h1>OrvChartDlgs: the dialogs</h1>
 <p>Each picture is the component's dialog in the platform's property sheet under Wine, opened by
-orvhost through COM with the document named below (made by <code>tools/gallery.sh</code>).</p>
+orvhost through COM with the document named below (made by <code>tools/gallery.sh</code>); a
+standalone chart page is shown in orvhost's own property frame, its properties served from the
+document.</p>
 HTML
   cat "$figures"
   echo "</body></html>"

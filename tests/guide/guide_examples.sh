@@ -2,17 +2,22 @@
 # Every example of docs/host-guide.md, run as a host runs it: orvhost creates ChartPages through
 # COM under Wine, opens the example's request, plays what the user does, and prints the
 # StatusEvents it receives and DoModal's result; these must be what the guide says, exactly.
-# A block that quotes a file of the tree must equal that file.
-#   guide_examples.sh <orvhost.exe> <source root>
+# A block that quotes a file of the tree must equal that file. A page example shows a standalone
+# chart page in orvhost's own property frame instead, the page made straight from the DLL.
+#   guide_examples.sh <orvhost.exe> <source root> <OrvChartDlgs.dll>
 # The guide's blocks (fence info after the language):
 #   request=<name> [chart=daily|intraday|none]   the document handed to DoModal2 (DoModal with none)
+#   request=<name> page=<class id>               the document the page's chart object serves
 #   user=<name>                                  what the user does, in orvhost's script language
-#   events=<name> returns=<n>                    the StatusEvent documents in order, then the result
+#   events=<name> returns=<n>                    the StatusEvent documents in order, then the result;
+#                                                for a page, the frame's lines (a document sent
+#                                                continues the line before it), then the result
 #   file=<path>                                  a file of the tree, quoted whole
 # Each xml block must be one of these, so no example goes unchecked.
 set -u
 host=$1
 root=$2
+dll=$3
 guide=$root/docs/host-guide.md
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -36,7 +41,9 @@ awk -v dir="$work" '
     inblock = 1; start = NR; lang = substr($0, 4); info = lang; sub(/[ \t].*/, "", lang)
     sub(/^[^ \t]*[ \t]*/, "", info)
     out = ""
-    if ((n = attr("request")) != "") { out = dir "/request." n; print attr("chart") > (dir "/chart." n) }
+    if ((n = attr("request")) != "") {
+      out = dir "/request." n; print attr("chart") > (dir "/chart." n); print attr("page") > (dir "/page." n)
+    }
     else if ((n = attr("user")) != "") out = dir "/user." n
     else if ((n = attr("events")) != "") { out = dir "/events." n; print attr("returns") > (dir "/returns." n) }
     else if ((n = attr("file")) != "") { out = dir "/file." (++files); print n > (dir "/path." files) }
@@ -78,6 +85,20 @@ expected() {
   echo "DoModal returned $(cat "$work/returns.$1")"
 }
 
+# The same for a page: the frame's lines as orvhost prints them, each trimmed; a line that starts
+# with markup continues the line before it (after a space when that line is no markup: the
+# document that SetPageProperties got), so a document may be shown indented, over many lines.
+expected_page() {
+  awk '
+    { sub(/^[ 	]+/, ""); sub(/[ 	]+$/, "") }
+    /^<!--.*-->$/ || $0 == "" { next }
+    /^</ && started { line = line (line ~ />$/ ? "" : " ") $0; next }
+    { if (started) print line; line = $0; started = 1 }
+    END { if (started) print line }
+  ' "$work/events.$1"
+  echo "Frame returned $(cat "$work/returns.$1")"
+}
+
 for request in "$work"/request.*; do
   [ -e "$request" ] || { fail "docs/host-guide.md has no examples"; break; }
   name=${request##*/request.}
@@ -86,13 +107,19 @@ for request in "$work"/request.*; do
     continue
   fi
   set -- --doc "$(winepath -w "$request")" --script "$(winepath -w "$work/user.$name")"
+  code=$(cat "$work/returns.$name")
+  page=$(cat "$work/page.$name")
+  if [ -n "$page" ]; then
+    [ -z "$(cat "$work/chart.$name")" ] || { fail "$name: a page example takes no chart="; continue; }
+    case_ "$name" "$code" "$(expected_page "$name")" --activate direct --dll "$(winepath -w "$dll")" --page "$page" "$@"
+    continue
+  fi
   case $(cat "$work/chart.$name") in
     ""|daily) ;;
     intraday) set -- "$@" --intraday ;;
     none) set -- "$@" --no-chart-data ;;
     *) fail "$name: chart= takes daily, intraday or none"; continue ;;
   esac
-  code=$(cat "$work/returns.$name")
   [ "$code" = -1 ] && code=255
   case_ "$name" "$code" "$(expected "$name")" "$@"
 done
