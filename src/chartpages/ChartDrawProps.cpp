@@ -3,8 +3,6 @@
 #include <cstdlib>
 #include <string>
 
-#include "xml/StrFormat.h"
-
 const ChartStyleRow ChartStyleTable[kDrawTypeCount] = {
     {"Color:", "", "Bar", "", 0x003},
     {"Color:", "", "Line", "", 0x43B},
@@ -40,17 +38,6 @@ const ChartTypeRow ChartTypeTable[kDrawTypeCount] = {
     {13, "SlopedBar", "Sloped Bar", "SlopedBar", 1},
     {14, "HollowCandle", "Hollow Candle", "HollowCandle", 1},
 };
-
-XmlNode ChartGetChildDouble(XmlNode parent, const char* name, double& value) {
-  std::string text;
-  XmlNode child = XmlGetChildText(parent, name, text);
-  if (child) value = std::atof(text.c_str());
-  return child;
-}
-
-XmlNode ChartAddDoubleChild(XmlNode parent, const char* name, double value) {
-  return XmlAddTextChild(parent, name, orv::StrFormat("%f", value));
-}
 
 namespace {
 
@@ -154,10 +141,10 @@ void CAnalytics::Read(XmlNode node) {
   GetChildBool(node, "RagnarBCL", BclOn);
   GetChildColor(node, "ColorDoji", DojiColor);
   GetChildColor(node, "ColorBCL", BclColor);
-  ChartGetChildDouble(node, "DojiPct", DojiPct);
-  ChartGetChildDouble(node, "BCLPCT", BclPct);
+  XmlGetChildDouble(node, "DojiPct", DojiPct);
+  XmlGetChildDouble(node, "BCLPCT", BclPct);
   GetChildBool(node, "ShowCOGap", GapOn);
-  ChartGetChildDouble(node, "PctCOGap", GapPct);
+  XmlGetChildDouble(node, "PctCOGap", GapPct);
   GetChildColor(node, "ColorCOGap", GapColor);
 }
 
@@ -171,18 +158,18 @@ void CAnalytics::Write(XmlNode node) {
   AddBool(info, "RagnarBCL", BclOn);
   XmlAddValueChild(info, "ColorDoji", DojiColor);
   XmlAddValueChild(info, "ColorBCL", BclColor);
-  ChartAddDoubleChild(info, "DojiPct", DojiPct);
-  ChartAddDoubleChild(info, "BCLPCT", BclPct);
+  XmlAddDoubleChild(info, "DojiPct", DojiPct);
+  XmlAddDoubleChild(info, "BCLPCT", BclPct);
   AddBool(info, "ShowCOGap", GapOn);
-  ChartAddDoubleChild(info, "PctCOGap", GapPct);
+  XmlAddDoubleChild(info, "PctCOGap", GapPct);
   XmlAddValueChild(info, "ColorCOGap", GapColor);
 }
 
 void ChartDrawProps::Read(XmlNode root) {
   if (XmlNode defaults = XmlFindNode(root, "PtFigDefList", true)) {
     XmlGetChildValue(defaults, "PtFigDefBoxUnits", defBoxUnits);
-    ChartGetChildDouble(defaults, "PtFigDefBoxSize", defBoxSize);
-    ChartGetChildDouble(defaults, "PtFigDefTickSize", defTickSize);
+    XmlGetChildDouble(defaults, "PtFigDefBoxSize", defBoxSize);
+    XmlGetChildDouble(defaults, "PtFigDefTickSize", defTickSize);
     GetChildUnsigned(defaults, "PtFigDefTickCount", defTickCount);
   }
   XmlNode chart = XmlFindNode(root, "Chart", true);
@@ -203,13 +190,13 @@ void ChartDrawProps::Read(XmlNode root) {
     XmlGetChildValue(pointFigure, "PF_BoxUnits", boxUnits);
     GetChildUnsigned(pointFigure, "PF_Reversal", reversal);
     GetChildUnsigned(pointFigure, "PF_TickCount", tickCount);
-    ChartGetChildDouble(pointFigure, "PF_BoxSize", boxSize);
+    XmlGetChildDouble(pointFigure, "PF_BoxSize", boxSize);
     if (tickCount > 0) tickSize = boxSize / tickCount;
   }
 
   GetChildUnsigned(chart, "BarShowColors", barColoring);
-  ChartGetChildDouble(chart, "BarUpPcnt", barUpPercent);
-  ChartGetChildDouble(chart, "BarDnPcnt", barDnPercent);
+  XmlGetChildDouble(chart, "BarUpPcnt", barUpPercent);
+  XmlGetChildDouble(chart, "BarDnPcnt", barDnPercent);
   std::int32_t color = static_cast<std::int32_t>(barUpColor);
   XmlGetChildValue(chart, "BarUpColor", color);
   barUpColor = static_cast<std::uint32_t>(color);
@@ -262,11 +249,11 @@ void ChartDrawProps::Write(XmlNode root) const {
   XmlAddValueChild(pointFigure, "PF_BoxUnits", boxUnits);
   XmlAddValueChild(pointFigure, "PF_Reversal", reversal);
   XmlAddValueChild(pointFigure, "PF_TickCount", tickCount);
-  ChartAddDoubleChild(pointFigure, "PF_BoxSize", boxUnits == 1 ? tickCount * tickSize : boxSize);
+  XmlAddDoubleChild(pointFigure, "PF_BoxSize", boxUnits == 1 ? tickCount * tickSize : boxSize);
 
   XmlAddValueChild(chart, "BarShowColors", barColoring);
-  ChartAddDoubleChild(chart, "BarUpPcnt", barUpPercent);
-  ChartAddDoubleChild(chart, "BarDnPcnt", barDnPercent);
+  XmlAddDoubleChild(chart, "BarUpPcnt", barUpPercent);
+  XmlAddDoubleChild(chart, "BarDnPcnt", barDnPercent);
   XmlAddValueChild(chart, "BarUpColor", static_cast<std::int32_t>(barUpColor));
   XmlAddValueChild(chart, "BarDnColor", static_cast<std::int32_t>(barDnColor));
 

@@ -134,8 +134,3 @@ struct ChartDrawProps {
   // Writes "BaseChart" under a new root.
   void Write(XmlNode root) const;
 };
-
-// A child element's text read as a double; absent leaves `value` as it was.
-XmlNode ChartGetChildDouble(XmlNode parent, const char* name, double& value);
-// A child element holding "%f" of the value.
-XmlNode ChartAddDoubleChild(XmlNode parent, const char* name, double value);

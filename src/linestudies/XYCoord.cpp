@@ -4,8 +4,6 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "xml/StrFormat.h"
-
 XmlNode LsGetChildDouble(XmlNode parent, const char* name, double& value) {
   std::string text;
   XmlNode child = XmlGetChildText(parent, name, text);
@@ -21,10 +19,6 @@ XmlNode LsGetChildDouble(XmlNode parent, const char* name, double& value) {
   if (*end != '\0' || !std::isfinite(parsed)) return child;
   value = parsed;
   return child;
-}
-
-XmlNode LsAddDoubleChild(XmlNode parent, const char* name, double value) {
-  return XmlAddTextChild(parent, name, orv::StrFormat("%f", value));
 }
 
 bool LsIsElement(XmlNode node) {
@@ -46,7 +40,7 @@ void CXYCoord::Load(XmlNode element) {
 void CXYCoord::Save(XmlNode parent) const {
   XmlNode element = XmlAddChild(parent, "CXYCoord");
   XmlAddValueChild(element, "XY_xPos", xPos);
-  LsAddDoubleChild(element, "XY_yValue", yValue);
+  XmlAddDoubleChild(element, "XY_yValue", yValue);
   XmlAddValueChild(element, "XY_lDate", lDate);
   XmlAddValueChild(element, "XY_lTime", lTime);
   XmlAddValueChild(element, "XY_lSec", lSec);

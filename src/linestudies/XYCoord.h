@@ -60,7 +60,5 @@ inline constexpr std::array<SnapEntry, 7> kSnapTable = {{
 // Reads the text of the direct child `name` as a double (as "%f" or any decimal form wrote it);
 // the value is left as it was when the child is absent or its text is no finite number.
 XmlNode LsGetChildDouble(XmlNode parent, const char* name, double& value);
-// Appends `name` holding the value as "%f".
-XmlNode LsAddDoubleChild(XmlNode parent, const char* name, double value);
 // True when `node` is an element (not text, a comment or a processing instruction).
 bool LsIsElement(XmlNode node);

@@ -170,6 +170,13 @@ XmlNode XmlGetAttrDouble(XmlNode node, const char* name, double& value) {
   return attr;
 }
 
+XmlNode XmlGetChildDouble(XmlNode parent, const char* name, double& value) {
+  std::string text;
+  XmlNode child = XmlGetChildText(std::move(parent), name, text);
+  if (child) value = std::atof(text.c_str());
+  return child;
+}
+
 std::string XmlGetXml(XmlNode node) { return dom::NodeXml(Need(node)); }
 
 orv::Status XmlSetAttr(XmlNode node, const char* name, std::string_view value) {
@@ -195,6 +202,10 @@ XmlNode XmlSetAttrDouble(XmlNode node, const char* name, double value) {
 XmlNode XmlAddChild(XmlNode parent, const char* name) {
   if (!parent) return XmlNode();
   return Wrap(dom::AppendElement(*parent.impl(), NeedXmlName(name, "createElement: not an XML name")));
+}
+
+XmlNode XmlAddDoubleChild(XmlNode parent, const char* name, double value) {
+  return XmlAddTextChild(std::move(parent), name, orv::StrFormat("%f", value));
 }
 
 XmlNode XmlAddTextChild(XmlNode parent, const char* name, std::string_view text) {

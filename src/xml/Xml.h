@@ -71,6 +71,8 @@ XmlNode XmlGetNodeValue(XmlNode node, std::int32_t& value);
 // The attribute's text read by atof (so text that is no number gives 0.0); assigned only when the
 // attribute exists.
 XmlNode XmlGetAttrDouble(XmlNode node, const char* name, double& value);
+// The same of a child element's text.
+XmlNode XmlGetChildDouble(XmlNode parent, const char* name, double& value);
 // The markup of the node and everything below it; a null node raises orv::kStatusPointer.
 std::string XmlGetXml(XmlNode node);
 
@@ -89,6 +91,8 @@ XmlNode XmlAddValueChild(XmlNode parent, const char* name, std::int32_t value,
                          XmlValueKind kind = XmlValueKind::Decimal);
 XmlNode XmlAddValueChild(XmlNode parent, const char* name, std::uint32_t value,
                          XmlValueKind kind = XmlValueKind::Decimal);
+// A child element holding "%f" of the value.
+XmlNode XmlAddDoubleChild(XmlNode parent, const char* name, double value);
 // Appends a copy of `node` (with its descendants when `deep`) to `destination`, which may be in
 // another document; returns the appended copy, null when either argument is null.
 XmlNode XmlAppendClone(XmlNode destination, XmlNode node, bool deep);
