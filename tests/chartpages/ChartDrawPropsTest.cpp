@@ -291,18 +291,7 @@ INSTANTIATE_TEST_SUITE_P(
                     line.Name = "Own";
                     p.lineProps.SetAt("Bar", line);
                   },
-                  "<LP Name=\"Own\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"},
-        WriteCase{"ShadeCurrentKeysOnly",
-                  [](ChartDrawProps& p) {
-                    CShadeProp shade;
-                    shade.Mode = 1;
-                    shade.Transparency = 100;
-                    shade.Gradient = 1;
-                    p.shadeProps.SetAt("Line", shade);
-                  },
-                  "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"100\" Gradient=\"1\"/></ShadeProps>"},
-        WriteCase{"PriceBoxAsDecimal", [](ChartDrawProps& p) { p.showPriceBox = true; },
-                  "<ChartShowPriceBox>1</ChartShowPriceBox>"}),
+                  "<LP Name=\"Own\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"}),
     [](const testing::TestParamInfo<WriteCase>& info) { return std::string(info.param.name); });
 
 TEST(ChartDrawPropsRoundTrip, OlderDocumentComesBackInTheCurrentForm) {
