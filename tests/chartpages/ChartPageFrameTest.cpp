@@ -164,20 +164,6 @@ INSTANTIATE_TEST_SUITE_P(
                     OpenCase{"dirty filling the defaults", false, 0, 0, true, 0, "default", false, kDirtyThenClean}),
     [](const testing::TestParamInfo<OpenCase>& info) { return TestName(info.param.name); });
 
-TEST(ChartPageFrame, MarkingDirtyTellsTheSiteEveryTime) {
-  FakeConnection connection;
-  connection.expected.push_back({HostCall::Get, 0, kProperties, 1});
-  FramedPage framed(connection);
-  framed.Open();
-  EXPECT_FALSE(framed.frame.IsDirty());
-
-  framed.controls.TypeText(IDC_SAMPLE_VALUE, "typed");
-  framed.controls.Click(IDC_SAMPLE_FLAG);
-  framed.controls.TypeText(IDC_SAMPLE_VALUE, "again");
-  EXPECT_TRUE(framed.frame.IsDirty());
-  EXPECT_EQ(connection.statuses, (std::vector<std::uint32_t>{kPageStatusDirty, kPageStatusDirty, kPageStatusDirty}));
-}
-
 struct ApplyCase {
   const char* name;
   bool hasHost;
