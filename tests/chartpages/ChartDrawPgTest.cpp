@@ -75,77 +75,33 @@ std::string TypeDoc(int type, const std::string& chartMore = "", const std::stri
          "</ChartProps>" + chartMore + "</Chart></BaseChart>";
 }
 
-// Every control whose visibility depends on the draw type.
-const std::vector<int> kManaged = {IDC_CD_COLOR1_LABEL,
-                                   IDC_CD_COLOR1,
-                                   IDC_CD_COLOR2_LABEL,
-                                   IDC_CD_COLOR2,
-                                   IDC_CD_STYLE_LABEL,
-                                   IDC_CD_STYLE,
-                                   IDC_CD_TEXT_COLOR,
-                                   IDC_CD_TEXT_COLOR_LABEL,
-                                   IDC_CD_SHADE,
-                                   IDC_CD_GRADIENT,
-                                   IDC_CD_TRANSP_LABEL,
-                                   IDC_CD_TRANSP,
-                                   IDC_CD_LINE_DOTS,
-                                   IDC_CD_RIBBON,
-                                   IDC_CD_PF_BOX,
-                                   IDC_CD_BOX_UNITS_LABEL,
-                                   IDC_CD_BOX_UNITS,
-                                   IDC_CD_BOX_SIZE_LABEL,
-                                   IDC_CD_BOX_SIZE,
-                                   IDC_CD_TICK_COUNT,
-                                   IDC_CD_TICK_SIZE_LABEL,
-                                   IDC_CD_TICK_SIZE,
-                                   IDC_CD_REVERSAL_LABEL,
-                                   IDC_CD_REVERSAL,
-                                   IDC_CD_REVERSAL_SPIN,
-                                   IDC_CD_RESET,
-                                   IDC_CD_BAR_COLORS,
-                                   IDC_CD_BAR_UP_LABEL,
-                                   IDC_CD_BAR_DN_LABEL,
-                                   IDC_CD_BAR_UP_PCT,
-                                   IDC_CD_BAR_DN_PCT,
-                                   IDC_CD_BAR_UP_COLOR_LABEL,
-                                   IDC_CD_BAR_DN_COLOR_LABEL,
-                                   IDC_CD_BAR_UP_COLOR,
-                                   IDC_CD_BAR_DN_COLOR,
-                                   IDC_CD_TAILS,
-                                   IDC_CD_PERIODS_LABEL,
-                                   IDC_CD_PERIODS,
-                                   IDC_CD_PERIODS_SPIN,
-                                   IDC_CD_PCT_UP_LABEL,
-                                   IDC_CD_PCT_UP,
-                                   IDC_CD_PCT_UP_SPIN,
-                                   IDC_CD_PCT_DN_LABEL,
-                                   IDC_CD_PCT_DN,
-                                   IDC_CD_PCT_DN_SPIN,
-                                   IDC_CD_DOJI,
-                                   IDC_CD_DOJI_PCT,
-                                   IDC_CD_DOJI_COLOR,
-                                   IDC_CD_BCL,
-                                   IDC_CD_BCL_PCT,
-                                   IDC_CD_BCL_COLOR,
-                                   IDC_CD_GAP,
-                                   IDC_CD_GAP_PCT,
-                                   IDC_CD_GAP_COLOR};
-
-const std::set<int> kColor1 = {IDC_CD_COLOR1_LABEL, IDC_CD_COLOR1};
-const std::set<int> kColor2 = {IDC_CD_COLOR2_LABEL, IDC_CD_COLOR2};
-const std::set<int> kText = {IDC_CD_TEXT_COLOR, IDC_CD_TEXT_COLOR_LABEL};
-const std::set<int> kPointFigure = {IDC_CD_PF_BOX,     IDC_CD_BOX_UNITS_LABEL, IDC_CD_BOX_UNITS, IDC_CD_BOX_SIZE_LABEL,
-                                    IDC_CD_TICK_COUNT, IDC_CD_TICK_SIZE_LABEL, IDC_CD_TICK_SIZE, IDC_CD_REVERSAL_LABEL,
-                                    IDC_CD_REVERSAL,   IDC_CD_REVERSAL_SPIN,   IDC_CD_RESET};
-const std::set<int> kChannels = {IDC_CD_TAILS,   IDC_CD_DOJI,     IDC_CD_DOJI_PCT,  IDC_CD_DOJI_COLOR,
-                                 IDC_CD_BCL,     IDC_CD_BCL_PCT,  IDC_CD_BCL_COLOR, IDC_CD_GAP,
-                                 IDC_CD_GAP_PCT, IDC_CD_GAP_COLOR};
-
 std::set<int> Join(std::initializer_list<std::set<int>> parts) {
   std::set<int> all;
   for (const auto& p : parts) all.insert(p.begin(), p.end());
   return all;
 }
+
+const std::set<int> kColor1 = {IDC_CD_COLOR1_LABEL, IDC_CD_COLOR1};
+const std::set<int> kColor2 = {IDC_CD_COLOR2_LABEL, IDC_CD_COLOR2};
+const std::set<int> kText = {IDC_CD_TEXT_COLOR, IDC_CD_TEXT_COLOR_LABEL};
+const std::set<int> kLineOnly = {IDC_CD_STYLE_LABEL, IDC_CD_STYLE, IDC_CD_LINE_DOTS, IDC_CD_RIBBON};
+const std::set<int> kShade = {IDC_CD_SHADE, IDC_CD_GRADIENT};
+const std::set<int> kTransp = {IDC_CD_TRANSP_LABEL, IDC_CD_TRANSP};
+const std::set<int> kPointFigure = {IDC_CD_PF_BOX,     IDC_CD_BOX_UNITS_LABEL, IDC_CD_BOX_UNITS, IDC_CD_BOX_SIZE_LABEL,
+                                    IDC_CD_TICK_COUNT, IDC_CD_TICK_SIZE_LABEL, IDC_CD_TICK_SIZE, IDC_CD_REVERSAL_LABEL,
+                                    IDC_CD_REVERSAL,   IDC_CD_REVERSAL_SPIN,   IDC_CD_RESET};
+const std::set<int> kBars = {IDC_CD_BAR_COLORS, IDC_CD_BAR_UP_LABEL, IDC_CD_BAR_DN_LABEL, IDC_CD_BAR_UP_PCT,
+                             IDC_CD_BAR_DN_PCT, IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR};
+const std::set<int> kBarColorLabels = {IDC_CD_BAR_UP_COLOR_LABEL, IDC_CD_BAR_DN_COLOR_LABEL};
+const std::set<int> kChannels = {IDC_CD_TAILS,   IDC_CD_DOJI,     IDC_CD_DOJI_PCT,  IDC_CD_DOJI_COLOR,
+                                 IDC_CD_BCL,     IDC_CD_BCL_PCT,  IDC_CD_BCL_COLOR, IDC_CD_GAP,
+                                 IDC_CD_GAP_PCT, IDC_CD_GAP_COLOR};
+const std::set<int> kTailFields = {IDC_CD_PERIODS_LABEL, IDC_CD_PERIODS, IDC_CD_PERIODS_SPIN,
+                                   IDC_CD_PCT_UP_LABEL,  IDC_CD_PCT_UP,  IDC_CD_PCT_UP_SPIN,
+                                   IDC_CD_PCT_DN_LABEL,  IDC_CD_PCT_DN,  IDC_CD_PCT_DN_SPIN};
+// Every control whose visibility depends on the draw type.
+const std::set<int> kManaged = Join({kColor1, kColor2, kText, kLineOnly, kShade, kTransp, kPointFigure, kBars,
+                                     kBarColorLabels, kChannels, kTailFields});
 
 struct TypeCase {
   int type;
@@ -185,30 +141,20 @@ INSTANTIATE_TEST_SUITE_P(
     EveryType, DrawTypeControls,
     testing::Values(
         TypeCase{0,
-                 Join({kColor1,
-                       {IDC_CD_BAR_COLORS, IDC_CD_BAR_UP_LABEL, IDC_CD_BAR_DN_LABEL, IDC_CD_BAR_UP_PCT,
-                        IDC_CD_BAR_DN_PCT, IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR}}),
+                 Join({kColor1, kBars}),
                  {IDC_CD_BAR_UP_PCT, IDC_CD_BAR_DN_PCT, IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR},
                  "Color:",
                  ""},
         // The gradient check follows the boundary close check (on by default), then the shade check disables it.
-        TypeCase{
-            1,
-            Join({kColor1,
-                  {IDC_CD_STYLE_LABEL, IDC_CD_STYLE, IDC_CD_SHADE, IDC_CD_GRADIENT, IDC_CD_LINE_DOTS, IDC_CD_RIBBON}}),
-            {IDC_CD_GRADIENT},
-            "Color:",
-            ""},
+        TypeCase{1, Join({kColor1, kLineOnly, kShade}), {IDC_CD_GRADIENT}, "Color:", ""},
         TypeCase{2, kCandles, {}, "Color Up:", "Color Down:"}, TypeCase{3, kColor1, {}, "Color:", ""},
         TypeCase{4, Join({kColor1, kColor2, kPointFigure}), {IDC_CD_TICK_SIZE}, "Color X:", "Color O:"},
         TypeCase{5, {}, {}, "", ""}, TypeCase{9, {}, {}, "", ""},
-        TypeCase{10, Join({kColor1, {IDC_CD_SHADE, IDC_CD_GRADIENT}}), {IDC_CD_GRADIENT}, "Color:", ""},
-        TypeCase{11, Join({kCandles, kChannels, {IDC_CD_TRANSP_LABEL, IDC_CD_TRANSP}}), {}, "Color Up:", "Color Down:"},
+        TypeCase{10, Join({kColor1, kShade}), {IDC_CD_GRADIENT}, "Color:", ""},
+        TypeCase{11, Join({kCandles, kChannels, kTransp}), {}, "Color Up:", "Color Down:"},
         TypeCase{12, kCandles, {}, "Color Up:", "Color Down:"},
         TypeCase{13,
-                 Join({kColor1,
-                       {IDC_CD_TRANSP_LABEL, IDC_CD_TRANSP, IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR,
-                        IDC_CD_BAR_UP_COLOR_LABEL, IDC_CD_BAR_DN_COLOR_LABEL}}),
+                 Join({kColor1, kTransp, kBarColorLabels, {IDC_CD_BAR_UP_COLOR, IDC_CD_BAR_DN_COLOR}}),
                  {},
                  "Color:",
                  ""},
@@ -314,6 +260,23 @@ std::string Sent(const std::string& chartProps, const std::string& pointFigure, 
          "</ChartShowPriceBox><ChartProps>" + chartProps + "</ChartProps><PointFigure>" + pointFigure +
          "</PointFigure>" + bars + analytics + "</Chart></BaseChart></ChartDrawPg>";
 }
+// The head of ChartProps as the page writes it.
+std::string Head(int type, int textColor = 1, int lineDots = 0) {
+  return "<CP_DrawType>" + std::to_string(type) + "</CP_DrawType><CP_TxtClrIdx>" + std::to_string(textColor) +
+         "</CP_TxtClrIdx><LineDots>" + std::to_string(lineDots) + "</LineDots><Ribbon>0</Ribbon>";
+}
+// One LineProps record with no style or flags, and one ShadeProps record.
+std::string LP(const std::string& name, std::uint32_t color, int weight = 1) {
+  return "<LP Name=\"" + name + "\" Color=\"" + std::to_string(color) + "\" Weight=\"" + std::to_string(weight) +
+         "\" Style=\"0\" Flags=\"0\"/>";
+}
+std::string SP(const std::string& name, int mode = 0, int transparency = 0) {
+  return "<SP Name=\"" + name + "\" ShadeMode=\"" + std::to_string(mode) + "\" ShadeTransp=\"" +
+         std::to_string(transparency) + "\" Gradient=\"0\"/>";
+}
+std::string Lists(const std::string& lines, const std::string& shades) {
+  return "<LineProps>" + lines + "</LineProps><ShadeProps>" + shades + "</ShadeProps>";
+}
 const std::string kDefaultPointFigure =
     "<PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>3</PF_Reversal><PF_TickCount>1</PF_TickCount><PF_BoxSize>1.000000</"
     "PF_BoxSize>";
@@ -381,58 +344,36 @@ INSTANTIATE_TEST_SUITE_P(
               p.page.SetButtonColor(IDC_CD_COLOR1, 0x123456);
               p.controls.Click(IDC_CD_COLOR1);
             },
-            Sent("<CP_DrawType>1</CP_DrawType><CP_TxtClrIdx>0</CP_TxtClrIdx><LineDots>1</LineDots><Ribbon>0</Ribbon>"
-                 "<LineProps><LP Name=\"Line\" Color=\"1193046\" Weight=\"3\" Style=\"1\" Flags=\"7\"/></LineProps>"
-                 "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"30\" Gradient=\"1\"/></ShadeProps>",
+            Sent(Head(1, 0, 1) +
+                     "<LineProps><LP Name=\"Line\" Color=\"1193046\" Weight=\"3\" Style=\"1\" Flags=\"7\"/></LineProps>"
+                     "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"30\" Gradient=\"1\"/></ShadeProps>",
                  kDefaultPointFigure,
                  "<BarShowColors>0</BarShowColors><BarUpPcnt>20.000000</BarUpPcnt><BarDnPcnt>20.000000</BarDnPcnt>"
                  "<BarUpColor>11</BarUpColor><BarDnColor>12</BarDnColor>",
                  kAnalytics, "1")},
-        ApplyCase{
-            "OlderColorPropsComeBackAsLineProps",
-            TypeDoc(2, "",
-                    "<CP_LineWeight>3</CP_LineWeight><ColorProps><ClrProp Name=\"CandleStickUp\" "
-                    "Color=\"65280\"/></ColorProps>"),
-            [](DrawPage& p) { p.controls.SelectComboItem(IDC_CD_TEXT_COLOR, 0); },
-            Sent("<CP_DrawType>2</CP_DrawType><CP_TxtClrIdx>0</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                 "<LineProps><LP Name=\"CandleStickUp\" Color=\"65280\" Weight=\"3\" Style=\"0\" Flags=\"0\"/>"
-                 "<LP Name=\"CandleStickDn\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                 "<ShadeProps><SP Name=\"CandleStick\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
-                 kDefaultPointFigure, kDefaultBars)},
-        ApplyCase{
-            "TransparencyAbove100", TypeDoc(1, "", "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\"/></ShadeProps>"),
-            [](DrawPage& p) { p.controls.TypeText(IDC_CD_TRANSP, "150"); },
-            Sent("<CP_DrawType>1</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                 "<LineProps><LP Name=\"Line\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                 "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"100\" Gradient=\"0\"/></ShadeProps>",
-                 kDefaultPointFigure, kDefaultBars)},
-        ApplyCase{
-            "TransparencyBelow0", TypeDoc(1, "", "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\"/></ShadeProps>"),
-            [](DrawPage& p) { p.controls.TypeText(IDC_CD_TRANSP, "-5"); },
-            Sent("<CP_DrawType>1</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                 "<LineProps><LP Name=\"Line\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                 "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
-                 kDefaultPointFigure, kDefaultBars)},
-        ApplyCase{
-            "TickUnitsWriteTicksTimesTickSize",
-            TypeDoc(4,
-                    "<PointFigure><PF_BoxUnits>1</PF_BoxUnits><PF_TickCount>4</PF_TickCount>"
-                    "<PF_BoxSize>2.0</PF_BoxSize></PointFigure>"),
-            [](DrawPage& p) { p.controls.TypeText(IDC_CD_REVERSAL, "5"); },
-            Sent("<CP_DrawType>4</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                 "<LineProps><LP Name=\"PtAndFigUp\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"
-                 "<LP Name=\"PtAndFigDn\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                 "<ShadeProps><SP Name=\"PtAndFig\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
-                 "<PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>5</PF_Reversal><PF_TickCount>4</PF_TickCount>"
-                 "<PF_BoxSize>2.000000</PF_BoxSize>",
-                 kDefaultBars)},
-        ApplyCase{
-            "EmptyTypeUsesTheEmptyKey", TypeDoc(5), [](DrawPage& p) { p.controls.SelectComboItem(IDC_CD_WEIGHT, 1); },
-            Sent("<CP_DrawType>5</CP_DrawType><CP_TxtClrIdx>1</CP_TxtClrIdx><LineDots>0</LineDots><Ribbon>0</Ribbon>"
-                 // No line of its own: the colour button's white comes back.
-                 "<LineProps><LP Name=\"\" Color=\"16777215\" Weight=\"2\" Style=\"0\" Flags=\"0\"/></LineProps>"
-                 "<ShadeProps><SP Name=\"CandleVol\" ShadeMode=\"0\" ShadeTransp=\"0\" Gradient=\"0\"/></ShadeProps>",
-                 kDefaultPointFigure, kDefaultBars)}),
+        ApplyCase{"OlderColorPropsComeBackAsLineProps",
+                  TypeDoc(2, "",
+                          "<CP_LineWeight>3</CP_LineWeight><ColorProps><ClrProp Name=\"CandleStickUp\" "
+                          "Color=\"65280\"/></ColorProps>"),
+                  [](DrawPage& p) { p.controls.SelectComboItem(IDC_CD_TEXT_COLOR, 0); },
+                  Sent(Head(2, 0) + Lists(LP("CandleStickUp", 65280, 3) + LP("CandleStickDn", 0), SP("CandleStick")),
+                       kDefaultPointFigure, kDefaultBars)},
+        ApplyCase{"TransparencyBelow0", TypeDoc(1, "", "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\"/></ShadeProps>"),
+                  [](DrawPage& p) { p.controls.TypeText(IDC_CD_TRANSP, "-5"); },
+                  Sent(Head(1) + Lists(LP("Line", 0), SP("Line", 1, 0)), kDefaultPointFigure, kDefaultBars)},
+        ApplyCase{"TickUnitsWriteTicksTimesTickSize",
+                  TypeDoc(4,
+                          "<PointFigure><PF_BoxUnits>1</PF_BoxUnits><PF_TickCount>4</PF_TickCount>"
+                          "<PF_BoxSize>2.0</PF_BoxSize></PointFigure>"),
+                  [](DrawPage& p) { p.controls.TypeText(IDC_CD_REVERSAL, "5"); },
+                  Sent(Head(4) + Lists(LP("PtAndFigUp", 0) + LP("PtAndFigDn", 0), SP("PtAndFig")),
+                       "<PF_BoxUnits>1</PF_BoxUnits><PF_Reversal>5</PF_Reversal><PF_TickCount>4</PF_TickCount>"
+                       "<PF_BoxSize>2.000000</PF_BoxSize>",
+                       kDefaultBars)},
+        ApplyCase{"EmptyTypeUsesTheEmptyKey", TypeDoc(5),
+                  [](DrawPage& p) { p.controls.SelectComboItem(IDC_CD_WEIGHT, 1); },
+                  // No line of its own: the colour button's white comes back.
+                  Sent(Head(5) + Lists(LP("", 16777215, 2), SP("CandleVol")), kDefaultPointFigure, kDefaultBars)}),
     [](const testing::TestParamInfo<ApplyCase>& info) { return std::string(info.param.name); });
 
 // --- the validators ---

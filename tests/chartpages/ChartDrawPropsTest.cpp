@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -45,19 +44,6 @@ const std::string kDefaultDocument =
     kDefaultAnalytics + "</Chart></BaseChart></ChartDrawPg>";
 
 TEST(ChartDrawPropsDefaults, WriteEveryKeyWithItsDefault) { EXPECT_EQ(Written(ChartDrawProps{}), kDefaultDocument); }
-
-TEST(ChartDrawPropsDefaults, RecordsStartAsDocumented) {
-  const CLineProp line;
-  EXPECT_EQ(line.Color, 0u);
-  EXPECT_EQ(line.Style, 0);
-  EXPECT_EQ(line.Weight, 1);
-  EXPECT_EQ(line.Set, 1);
-  EXPECT_EQ(line.Flags, 0u);
-  const CShadeProp shade;
-  EXPECT_EQ(shade.Mode, 0);
-  EXPECT_EQ(shade.Transparency, 90);
-  EXPECT_EQ(shade.Gradient, 0);
-}
 
 TEST(ChartDrawPropsMissing, ADocumentWithoutChartIsRefused) {
   ChartDrawProps props;
@@ -305,18 +291,7 @@ INSTANTIATE_TEST_SUITE_P(
                     line.Name = "Own";
                     p.lineProps.SetAt("Bar", line);
                   },
-                  "<LP Name=\"Own\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"},
-        WriteCase{"ShadeCurrentKeysOnly",
-                  [](ChartDrawProps& p) {
-                    CShadeProp shade;
-                    shade.Mode = 1;
-                    shade.Transparency = 100;
-                    shade.Gradient = 1;
-                    p.shadeProps.SetAt("Line", shade);
-                  },
-                  "<ShadeProps><SP Name=\"Line\" ShadeMode=\"1\" ShadeTransp=\"100\" Gradient=\"1\"/></ShadeProps>"},
-        WriteCase{"PriceBoxAsDecimal", [](ChartDrawProps& p) { p.showPriceBox = true; },
-                  "<ChartShowPriceBox>1</ChartShowPriceBox>"}),
+                  "<LP Name=\"Own\" Color=\"0\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"}),
     [](const testing::TestParamInfo<WriteCase>& info) { return std::string(info.param.name); });
 
 TEST(ChartDrawPropsRoundTrip, OlderDocumentComesBackInTheCurrentForm) {
@@ -339,20 +314,6 @@ TEST(ChartDrawPropsRoundTrip, OlderDocumentComesBackInTheCurrentForm) {
             "<BarShowColors>0</BarShowColors><BarUpPcnt>20.000000</BarUpPcnt><BarDnPcnt>20.000000</BarDnPcnt>"
             "<BarUpColor>1</BarUpColor><BarDnColor>2</BarDnColor>" +
                 kDefaultAnalytics + "</Chart></BaseChart></ChartDrawPg>");
-}
-
-TEST(ChartDrawTables, RowsForEveryDrawType) {
-  EXPECT_STREQ(ChartStyleTable[4].caption1, "Color X:");
-  EXPECT_STREQ(ChartStyleTable[11].key2, "RagnarDn");
-  EXPECT_EQ(ChartStyleTable[1].flags, 0x43Bu);
-  for (int type = 5; type <= 9; ++type) {
-    EXPECT_EQ(ChartStyleTable[type].flags, 0u) << type;
-    EXPECT_STREQ(ChartStyleTable[type].key1, "") << type;
-    EXPECT_EQ(ChartTypeTable[type].supported, 0) << type;
-  }
-  for (int type = 0; type < kDrawTypeCount; ++type) EXPECT_EQ(ChartTypeTable[type].id, type);
-  EXPECT_STREQ(ChartTypeTable[9].xmlName, " ");
-  EXPECT_STREQ(ChartTypeTable[11].display, "HLC Channels");
 }
 
 }  // namespace

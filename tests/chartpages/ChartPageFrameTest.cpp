@@ -149,46 +149,20 @@ TEST_P(Opening, AsksTheHostOnANewRootAndOpensClean) {
   }
 }
 
+// The statuses the site hears.
+const std::vector<std::uint32_t> kNone, kClean = {kPageStatusClean},
+                                        kDirtyThenClean = {kPageStatusDirty, kPageStatusClean};
+
 INSTANTIATE_TEST_SUITE_P(
     Cases, Opening,
-    testing::Values(OpenCase{"found", true, 0, 1, false, 1, "from host", true, {}},
-                    OpenCase{"any non-zero found counts", true, 0, -3, false, 1, "from host", true, {}},
-                    OpenCase{"not found: the defaults show", true, 0, 0, false, 0, "default", false, {}},
-                    OpenCase{"no host object: the defaults show", false, 0, 0, false, 0, "default", false, {}},
-                    OpenCase{"scope 1 is passed", true, 1, 1, false, 1, "from host", true, {}},
-                    OpenCase{"dirty while filling: made clean, site told",
-                             true,
-                             0,
-                             1,
-                             true,
-                             1,
-                             "from host",
-                             true,
-                             {kPageStatusDirty, kPageStatusClean}},
-                    OpenCase{"dirty while filling the defaults",
-                             false,
-                             0,
-                             0,
-                             true,
-                             0,
-                             "default",
-                             false,
-                             {kPageStatusDirty, kPageStatusClean}}),
+    testing::Values(OpenCase{"found", true, 0, 1, false, 1, "from host", true, kNone},
+                    OpenCase{"any non-zero found counts", true, 0, -3, false, 1, "from host", true, kNone},
+                    OpenCase{"not found: the defaults show", true, 0, 0, false, 0, "default", false, kNone},
+                    OpenCase{"no host object: the defaults show", false, 0, 0, false, 0, "default", false, kNone},
+                    OpenCase{"scope 1 is passed", true, 1, 1, false, 1, "from host", true, kNone},
+                    OpenCase{"dirty while filling", true, 0, 1, true, 1, "from host", true, kDirtyThenClean},
+                    OpenCase{"dirty filling the defaults", false, 0, 0, true, 0, "default", false, kDirtyThenClean}),
     [](const testing::TestParamInfo<OpenCase>& info) { return TestName(info.param.name); });
-
-TEST(ChartPageFrame, MarkingDirtyTellsTheSiteEveryTime) {
-  FakeConnection connection;
-  connection.expected.push_back({HostCall::Get, 0, kProperties, 1});
-  FramedPage framed(connection);
-  framed.Open();
-  EXPECT_FALSE(framed.frame.IsDirty());
-
-  framed.controls.TypeText(IDC_SAMPLE_VALUE, "typed");
-  framed.controls.Click(IDC_SAMPLE_FLAG);
-  framed.controls.TypeText(IDC_SAMPLE_VALUE, "again");
-  EXPECT_TRUE(framed.frame.IsDirty());
-  EXPECT_EQ(connection.statuses, (std::vector<std::uint32_t>{kPageStatusDirty, kPageStatusDirty, kPageStatusDirty}));
-}
 
 struct ApplyCase {
   const char* name;
@@ -249,58 +223,16 @@ TEST_P(Applying, SendsWhatTheUserChangedOnANewRoot) {
 INSTANTIATE_TEST_SUITE_P(
     Cases, Applying,
     testing::Values(
-        ApplyCase{
-            "dirty: sent, then clean", true, true, true, true, false, 0, kTypedRoot, {kPageStatusClean}, false, 1},
-        ApplyCase{"scope 1 in both calls", true, true, true, true, false, 1, kTypedRoot, {kPageStatusClean}, false, 1},
-        ApplyCase{"not dirty: nothing sent, nothing told", true, false, true, true, false, 0, nullptr, {}, false, 0},
-        ApplyCase{
-            "validator refuses: stays dirty, nothing sent", true, true, false, true, false, 0, nullptr, {}, true, 0},
-        ApplyCase{"validator refuses a clean page too", true, false, false, true, false, 0, nullptr, {}, false, 0},
-        ApplyCase{"writer refuses: nothing sent, stays dirty", true, true, true, false, false, 0, nullptr, {}, true, 1},
-        ApplyCase{"no host object: no exchange, made clean",
-                  false,
-                  true,
-                  true,
-                  true,
-                  false,
-                  0,
-                  nullptr,
-                  {kPageStatusClean},
-                  false,
-                  0},
-        ApplyCase{"clean before the exchange: same outcome",
-                  true,
-                  true,
-                  true,
-                  true,
-                  true,
-                  0,
-                  kTypedRoot,
-                  {kPageStatusClean},
-                  false,
-                  1},
-        ApplyCase{"clean before the exchange, writer refuses: clean all the same",
-                  true,
-                  true,
-                  true,
-                  false,
-                  true,
-                  0,
-                  nullptr,
-                  {kPageStatusClean},
-                  false,
-                  1},
-        ApplyCase{"clean before the exchange, validator refuses: stays dirty",
-                  true,
-                  true,
-                  false,
-                  true,
-                  true,
-                  0,
-                  nullptr,
-                  {},
-                  true,
-                  0}),
+        ApplyCase{"dirty: sent, then clean", true, true, true, true, false, 0, kTypedRoot, kClean, false, 1},
+        ApplyCase{"scope 1 in both calls", true, true, true, true, false, 1, kTypedRoot, kClean, false, 1},
+        ApplyCase{"not dirty: nothing sent, nothing told", true, false, true, true, false, 0, nullptr, kNone, false, 0},
+        ApplyCase{"validator refuses: stays dirty", true, true, false, true, false, 0, nullptr, kNone, true, 0},
+        ApplyCase{"validator refuses a clean page too", true, false, false, true, false, 0, nullptr, kNone, false, 0},
+        ApplyCase{"writer refuses: stays dirty", true, true, true, false, false, 0, nullptr, kNone, true, 1},
+        ApplyCase{"no host object: made clean", false, true, true, true, false, 0, nullptr, kClean, false, 0},
+        ApplyCase{"cleaning first: same outcome", true, true, true, true, true, 0, kTypedRoot, kClean, false, 1},
+        ApplyCase{"cleaning first, writer refuses: clean", true, true, true, false, true, 0, nullptr, kClean, false, 1},
+        ApplyCase{"cleaning first, validator refuses", true, true, false, true, true, 0, nullptr, kNone, true, 0}),
     [](const testing::TestParamInfo<ApplyCase>& info) { return TestName(info.param.name); });
 
 // Failures of the host's calls reach the frame's caller as they stand; the page stays dirty.
