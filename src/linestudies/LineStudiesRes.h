@@ -45,3 +45,9 @@
 #define IDC_LS_DAY_VWAP_SNAP 4725
 #define IDC_LS_LRC_MULTIPLIER 4741
 #define IDC_LS_DAY_LRC_SNAP 4746
+
+// The line tabs (line base, Fibonacci, Gann, pitchfork, parallel) and the graph object line page.
+
+// The position pages of the studies with several anchors (Fibonacci, Gann, pitchfork, parallel).
+
+// The cycle finder and the text page.

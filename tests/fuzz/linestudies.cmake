@@ -1,2 +1,8 @@
 # The line study sheet: any document, every page edited, OK or Cancel.
 orv_add_fuzzer(fuzz_lspages_trendline ${CMAKE_CURRENT_LIST_DIR}/LsPagesFuzz.cpp orv_linestudies_templates)
+
+# The line tabs and the graph object line page.
+
+# The position pages of the studies with several anchors.
+
+# The cycle finder and the text page.
