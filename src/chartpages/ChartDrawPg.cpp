@@ -16,12 +16,6 @@ struct ComboItem {
   int data;
 };
 
-constexpr ComboItem kWeights[] = {{"Thin", 1}, {"Medium", 2}, {"Thick", 3}};
-constexpr ComboItem kStyles[] = {{"Solid _________", 0},
-                                 {"Dash ---------", 1},
-                                 {"Dots .........", 2},
-                                 {"Dash Dot -.-.-.-.-.", 3},
-                                 {"Dash Dot Dot -..-..-..", 4}};
 constexpr ComboItem kBoxUnits[] = {{"Price", 0}, {"Tick", 1}};
 constexpr ComboItem kTextColors[] = {{"Up Color", 0}, {"Down Color", 1}};
 
@@ -158,8 +152,8 @@ bool CChartDrawPg::OnPropertiesRead() {
   // The platform's colour buttons take the held colours; a line chart's first colour may be "none".
   noColorOnColor1_ = props_.drawType == kDrawTypeLine;
   AttachColorButtons();
-  Fill(c, IDC_CD_WEIGHT, kWeights, std::size(kWeights));
-  Fill(c, IDC_CD_STYLE, kStyles, std::size(kStyles));
+  orv::FillLineChoices(c, IDC_CD_WEIGHT, orv::LineWeightChoices());
+  orv::FillLineChoices(c, IDC_CD_STYLE, orv::LineStyleChoices());
   c.UpDownSetRange(IDC_CD_PERIODS_SPIN, 2, 60);
   c.UpDownSetRange(IDC_CD_PCT_UP_SPIN, 10, 500);
   c.UpDownSetRange(IDC_CD_PCT_DN_SPIN, 10, 100);

@@ -86,10 +86,8 @@ void ReadLineProps(XmlNode chartProps, TStrHash<CLineProp, CStringTraits>& lineP
       CString key;
       XmlGetAttr(lp, "Name", key);
       CLineProp prop;
-      XmlGetAttrValue(lp, "Color", prop.Color);
-      XmlGetAttrValue(lp, "Weight", prop.Weight);
-      XmlGetAttrValue(lp, "Style", prop.Style);
-      XmlGetAttrValue(lp, "Flags", prop.Flags);
+      ReadLinePropAttrs(lp, prop);
+      prop.Name.clear();  // the name is the entry's key
       lineProps.SetAt(std::string_view(key), prop);
     });
     return;
@@ -229,12 +227,9 @@ void ChartDrawProps::Write(XmlNode root) const {
   XmlAddValueChild(chartProps, "Ribbon", ribbon);
   XmlNode lines = XmlAddChild(chartProps, "LineProps");
   for (const auto& [key, prop] : lineProps) {
-    XmlNode lp = XmlAddChild(lines, "LP");
-    XmlSetAttr(lp, "Name", prop.Name.empty() ? key : prop.Name);
-    XmlSetAttrValue(lp, "Color", prop.Color);
-    XmlSetAttrValue(lp, "Weight", prop.Weight);
-    XmlSetAttrValue(lp, "Style", prop.Style);
-    XmlSetAttrValue(lp, "Flags", prop.Flags);
+    CLineProp named = prop;
+    if (named.Name.empty()) named.Name = key;
+    WriteLinePropAttrs(XmlAddChild(lines, "LP"), named);
   }
   XmlNode shades = XmlAddChild(chartProps, "ShadeProps");
   for (const auto& [key, prop] : shadeProps) {

@@ -7,24 +7,12 @@
 #include <cstdint>
 #include <string>
 
+#include "dlgkit/LineProp.h"
 #include "dlgkit/StrHash.h"
 #include "xml/Xml.h"
 
-// How one line of a chart type is drawn, under its line key ("Bar", "CandleStickUp", ...).
-class CLineProp {
- public:
-  CLineProp() = default;
-  CLineProp(const CLineProp&) = default;
-  CLineProp& operator=(const CLineProp&) = default;
-  virtual ~CLineProp() = default;
-
-  CString Name;             // written in place of the key when not empty
-  std::uint32_t Color = 0;  // COLORREF, red in the low byte
-  std::int32_t Style = 0;
-  std::int32_t Weight = 1;
-  std::uint8_t Set = 1;  // set on construction; never read or written
-  std::uint32_t Flags = 0;
-};
+// How one line of a chart type is drawn is a CLineProp (dlgkit/LineProp.h), under its line key
+// ("Bar", "CandleStickUp", ...).
 
 // How the area below a line is shaded, under the chart type's name.
 struct CShadeProp {

@@ -2,6 +2,7 @@
 list(APPEND ORV_DLGKIT_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/Controls.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FloatParse.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LineProp.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBoxLayout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsStore.cpp
 )

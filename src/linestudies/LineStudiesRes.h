@@ -47,6 +47,30 @@
 #define IDC_LS_DAY_LRC_SNAP 4746
 
 // The line tabs (line base, Fibonacci, Gann, pitchfork, parallel) and the graph object line page.
+#define IDD_LS_PG_LINE_FIBO 1330
+#define IDD_LS_PG_LINE_GANN 1331
+#define IDD_LS_PG_LINE_PFORK 1332
+#define IDD_LS_PG_LINE_PARALLEL 1396
+// Row i of a line tab: IDC_LS_LINE_ROW0 + 10i and on (name, visibility, colour, style, weight,
+// ratio); the templates give the rows as numbers.
+#define IDC_LS_LINE_ROW0 2400
+#define IDC_LS_LINE_PRICE_BOX 227
+#define IDC_LS_FIB_EXTEND 1900
+#define IDC_LS_FIB_RESET 1901
+#define IDC_LS_FIB_SHOW_LABELS 1902
+#define IDC_LS_GANN_SHOW_HEADING 4669
+#define IDC_LS_PARALLEL_PRICE_BOX 4749
+#define IDD_GRAPH_OBJ_LINE_PG 1335
+#define IDC_LINE_PG_GROUP 1390
+#define IDC_LINE_PG_COLOR 1391
+#define IDC_LINE_PG_STYLE 1392
+#define IDC_LINE_PG_WEIGHT 1393
+#define IDC_LINE_PG_LABEL 1440
+#define IDC_LINE_PG_LIST 1441
+#define IDC_LINE_PG_SHOW_GRID 1442
+#define IDC_LINE_PG_SHOW_PRICE 1443
+#define IDC_LINE_PG_STYLE_LABEL 4687
+#define IDC_LINE_PG_WEIGHT_LABEL 4688
 
 // The position pages of the studies with several anchors (Fibonacci, Gann, pitchfork, parallel).
 

@@ -1,5 +1,6 @@
 #include "linestudies/LsPageTable.h"
 
+#include "linestudies/GraphObjLinePg.h"
 #include "linestudies/LsPgAdvanced.h"
 #include "linestudies/LsPgDayHorz.h"
 #include "linestudies/LsPgDayLRC.h"
@@ -10,6 +11,10 @@
 #include "linestudies/LsPgIntraTrend.h"
 #include "linestudies/LsPgIntraVWAP.h"
 #include "linestudies/LsPgIntraVert.h"
+#include "linestudies/LsPgLineFibo.h"
+#include "linestudies/LsPgLineGann.h"
+#include "linestudies/LsPgLineParallel.h"
+#include "linestudies/LsPgLinePfork.h"
 
 namespace orv {
 
@@ -23,7 +28,7 @@ std::unique_ptr<LineStudyPage> Make() {
 // The Day and Intra pages, the statistics position page and the volume profile page take chart
 // data; the line pages, text, advanced and statistics display pages don't.
 constexpr LsPageInfo kPages[kLsPageCount] = {
-    {"GraphObjLinePg", "CGraphObjLinePg", 1335, nullptr, false},
+    {"GraphObjLinePg", "CGraphObjLinePg", 1335, &Make<CGraphObjLinePg>, false},
     {"LsPgDayFibo", "CLsPgDayFibo", 1314, nullptr, true},
     {"LsPgDayVert", "CLsPgDayVert", 1319, &Make<CLsPgDayVert>, true},
     {"LsPgDayHorz", "CLsPgDayHorz", 1318, &Make<CLsPgDayHorz>, true},
@@ -39,9 +44,9 @@ constexpr LsPageInfo kPages[kLsPageCount] = {
     {"LsPgIntraPfork", "CLsPgIntraPfork", 1325, nullptr, true},
     {"LsPgIntraShape", "CLsPgIntraShape", 1328, nullptr, true},
     {"LsPgIntraCycfnd", "CLsPgIntraCycfnd", 1329, nullptr, true},
-    {"LsPgLineFibo", "CLsPgLineFibo", 1330, nullptr, false},
-    {"LsPgLineGann", "CLsPgLineGann", 1331, nullptr, false},
-    {"LsPgLinePfork", "CLsPgLinePfork", 1332, nullptr, false},
+    {"LsPgLineFibo", "CLsPgLineFibo", 1330, &Make<CLsPgLineFibo>, false},
+    {"LsPgLineGann", "CLsPgLineGann", 1331, &Make<CLsPgLineGann>, false},
+    {"LsPgLinePfork", "CLsPgLinePfork", 1332, &Make<CLsPgLinePfork>, false},
     {"LsPgText", "CLsPgText", 1333, nullptr, false},
     {"LsPgAdvanced", "CLsPgAdvanced", 1352, &Make<CLsPgAdvanced>, false},
     {"LsPgStatsShow", "CLsPgStatsShow", 1353, nullptr, false},
@@ -53,7 +58,7 @@ constexpr LsPageInfo kPages[kLsPageCount] = {
     {"LsPgIntraLRC", "CLsPgIntraLRC", 1366, &Make<CLsPgIntraLRC>, true},
     {"LsPgDayParallel", "CLsPgDayParallel", 1394, nullptr, true},
     {"LsPgIntraParallel", "CLsPgIntraParallel", 1395, nullptr, true},
-    {"LsPgLineParallel", "CLsPgLineParallel", 1396, nullptr, false},
+    {"LsPgLineParallel", "CLsPgLineParallel", 1396, &Make<CLsPgLineParallel>, false},
 };
 
 }  // namespace
