@@ -4,6 +4,7 @@ list(APPEND ORV_DLGKIT_TEST_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/DataExchangeTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/StrHashTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/FakeControlsTest.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/LinePropTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/MessageBoxLayoutTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SettingsStoreTest.cpp
   ${CMAKE_CURRENT_LIST_DIR}/SyntheticChartDataTest.cpp
