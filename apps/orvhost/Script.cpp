@@ -131,6 +131,7 @@ constexpr Verb kVerbs[] = {
     {"cancel", ScriptOp::Cancel}, {"next", ScriptOp::Next},     {"back", ScriptOp::Back},
     {"finish", ScriptOp::Finish}, {"wait", ScriptOp::Wait},     {"screenshot", ScriptOp::Screenshot},
     {"spin", ScriptOp::Spin},     {"toggle", ScriptOp::Toggle}, {"expect", ScriptOp::Expect},
+    {"color", ScriptOp::Color},
 };
 
 // Parses one command; an empty result means good.
@@ -143,7 +144,7 @@ std::string ParseCommand(const std::string& command, ScriptStep& step) {
   }
   if (found == nullptr) {
     return StrFormat(
-        "unknown command \"%.*s\" (known: text click select toggle expect tab spin apply ok "
+        "unknown command \"%.*s\" (known: text click select toggle expect tab spin color apply ok "
         "cancel next back finish wait screenshot)",
         static_cast<int>(verb.size()), verb.data());
   }
@@ -171,6 +172,11 @@ std::string ParseCommand(const std::string& command, ScriptStep& step) {
       if (!ParseInt(NextWord(rest), -1000000, 1000000, step.index) || step.index == 0) {
         return StrFormat("%s needs a number of steps other than 0", name);
       }
+      break;
+    case ScriptOp::Color:
+      if (!ParseInt(NextWord(rest), 1, 65535, step.id)) return StrFormat("%s needs a control id from 1 to 65535", name);
+      if (!ParseInt(NextWord(rest), 0, kMaxScriptColorCell, step.index))
+        return StrFormat("%s needs a grid cell from 0 to %d", name, kMaxScriptColorCell);
       break;
     case ScriptOp::Tab:
       if (!ParseInt(NextWord(rest), 0, 1000, step.index)) return StrFormat("%s needs a tab index of 0 or more", name);

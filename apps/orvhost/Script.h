@@ -23,6 +23,7 @@ enum class ScriptOp {
   Next,
   Back,
   Finish,
+  Color,       // color <id> <cell>: the colour button's drop-down opened, a cell of its grid clicked
   Wait,        // wait <ms>
   Screenshot,  // screenshot <file.png>: the sheet as painted
 };
@@ -30,7 +31,7 @@ enum class ScriptOp {
 struct ScriptStep {
   ScriptOp op = ScriptOp::Wait;
   int id = 0;            // control id (text, click, select, toggle, spin, expect)
-  int index = 0;         // item or tab index (select, toggle, tab), steps (spin)
+  int index = 0;         // item or tab index (select, toggle, tab), steps (spin), grid cell (color)
   int milliseconds = 0;  // wait
   std::string text;      // value (text, expect) or file name (screenshot), UTF-8
   std::string source;    // the command as written, for messages
@@ -45,6 +46,10 @@ struct ParsedScript {
 // name may be quoted ("a b; c", with \" and \\ inside); unquoted, it is the rest of the command
 // with surrounding blanks removed. A command starting with # is a comment to the end of its line.
 ParsedScript ParseScript(std::string_view text);
+
+// The cells of the colour grid a script may click: the palette's. An empty custom cell would open
+// the platform's colour editor, which no script answers.
+inline constexpr int kMaxScriptColorCell = 62;
 
 // The longest wait a script may ask for: a script that sleeps longer is surely wrong.
 inline constexpr int kMaxWaitMilliseconds = 60000;

@@ -2,6 +2,7 @@
 
 #include "WindowCapture.h"
 #include "com/WideText.h"
+#include "dlgkit/ColorPicker.h"
 #include "xml/StrFormat.h"
 
 #include <commctrl.h>
@@ -18,6 +19,8 @@ constexpr DWORD kSettleMilliseconds = 150;
 constexpr DWORD kSheetTimeoutMilliseconds = 15000;
 // A command that opens a window of its own (a message box) and waits on it this long is stuck.
 constexpr DWORD kStuckMilliseconds = 5000;
+// A colour button's drop-down closes within this after a cell is clicked.
+constexpr DWORD kColorCloseMilliseconds = 5000;
 
 ScriptDriver* g_running = nullptr;  // the timer callback carries no context
 
@@ -77,6 +80,58 @@ std::string ClickListRow(HWND list, int id, int row) {
   const LPARAM point = MAKELPARAM(at.x, at.y);
   SendMessageW(list, WM_LBUTTONDOWN, keys | MK_LBUTTON, point);
   SendMessageW(list, WM_LBUTTONUP, keys, point);
+  return {};
+}
+
+// The colour drop-down of this thread that is shown: a window of template 311 (its grid takes the
+// placeholder's id, beside the "Line Colors" switch and the "Hide" check).
+BOOL CALLBACK FindColorPopupProc(HWND window, LPARAM found) {
+  if (IsWindowVisible(window) && GetDlgItem(window, kIdcColorGrid) != nullptr &&
+      GetDlgItem(window, kIdcColorListMode) != nullptr && GetDlgItem(window, kIdcNoColor) != nullptr) {
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+  }
+  return TRUE;
+}
+
+HWND FindColorPopup() {
+  HWND found = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), FindColorPopupProc, reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+// A colour chosen as a user chooses it: a click on the button drops its grid down, a left click on
+// the middle of a cell (placed as the grid places its cells, at the screen's scale) picks it, and
+// the drop-down closes by its own posted messages, which run here until it has.
+std::string PickGridColor(HWND button, int id, int cell) {
+  SendMessageW(button, BM_CLICK, 0, 0);
+  const HWND popup = FindColorPopup();
+  if (popup == nullptr) return StrFormat("control %d opened no colour drop-down", id);
+  const HWND grid = GetDlgItem(popup, kIdcColorGrid);
+  RECT client{};
+  GetClientRect(grid, &client);
+  const HDC screen = GetDC(nullptr);
+  const double scale = GetDeviceCaps(screen, LOGPIXELSY) / 96.0;
+  ReleaseDC(nullptr, screen);
+  ColorGrid geometry(NewerColorPalette(), scale);
+  geometry.Layout(client.right, client.bottom);
+  const WindowRect r = geometry.CellRect(cell);
+  const LPARAM point = MAKELPARAM((r.left + r.right) / 2, (r.top + r.bottom) / 2);
+  SendMessageW(grid, WM_LBUTTONDOWN, MK_LBUTTON, point);
+  SendMessageW(grid, WM_LBUTTONUP, 0, point);
+  const DWORD since = GetTickCount();
+  while (IsWindowVisible(popup)) {
+    if (Elapsed(GetTickCount(), since, kColorCloseMilliseconds)) {
+      SendMessageW(popup, WM_COMMAND, IDCANCEL, 0);
+      return StrFormat("the drop-down of control %d stayed open (cell %d holds the button's colour?)", id, cell);
+    }
+    MSG msg;
+    while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
+      TranslateMessage(&msg);
+      DispatchMessageW(&msg);
+    }
+    if (IsWindowVisible(popup)) Sleep(10);
+  }
   return {};
 }
 
@@ -347,6 +402,9 @@ std::string ScriptDriver::Run(const ScriptStep& step, HWND sheet) {
       SendMessageW(GetParent(control), WM_NOTIFY, static_cast<WPARAM>(step.id), reinterpret_cast<LPARAM>(&move));
       return {};
     }
+    case ScriptOp::Color:
+      if (!(why = UsableControl(sheet, step.id, control)).empty()) return why;
+      return PickGridColor(control, step.id, step.index);
     case ScriptOp::Tab: {
       const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
       const LRESULT count = tabs != nullptr ? SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0) : 0;

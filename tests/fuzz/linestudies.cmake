@@ -2,6 +2,7 @@
 orv_add_fuzzer(fuzz_lspages_trendline ${CMAKE_CURRENT_LIST_DIR}/LsPagesFuzz.cpp orv_linestudies_templates)
 
 # The line tabs and the graph object line page.
+orv_add_fuzzer(fuzz_lspages_lines ${CMAKE_CURRENT_LIST_DIR}/LsLineTabsFuzz.cpp orv_linestudies_templates)
 
 # The position pages of the studies with several anchors.
 

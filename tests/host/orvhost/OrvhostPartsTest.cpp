@@ -82,9 +82,10 @@ TEST(OrvhostScript, ParsesEveryCommandWithSeparatorsQuotesAndComments) {
       "spin 1508 3; spin 1508 -12\n"
       "text 1463\ntext 1464 \"\"\n"
       "toggle 4462 12\n"
-      "expect 4446 \"Season (for year 2000)\"");
+      "expect 4446 \"Season (for year 2000)\"\n"
+      "color 2402 62");
   ASSERT_TRUE(s.error.empty()) << s.error;
-  ASSERT_EQ(s.steps.size(), 19u);
+  ASSERT_EQ(s.steps.size(), 20u);
   EXPECT_EQ(s.steps[0].op, ScriptOp::Text);
   EXPECT_EQ(s.steps[0].id, 1463);
   EXPECT_EQ(s.steps[0].text, "12.5");
@@ -115,6 +116,9 @@ TEST(OrvhostScript, ParsesEveryCommandWithSeparatorsQuotesAndComments) {
   EXPECT_EQ(s.steps[18].op, ScriptOp::Expect);
   EXPECT_EQ(s.steps[18].id, 4446);
   EXPECT_EQ(s.steps[18].text, "Season (for year 2000)");
+  EXPECT_EQ(s.steps[19].op, ScriptOp::Color);
+  EXPECT_EQ(s.steps[19].id, 2402);
+  EXPECT_EQ(s.steps[19].index, 62);
 }
 
 TEST(OrvhostScript, BadScriptsNameTheCommandAndTheFault) {
@@ -138,6 +142,9 @@ TEST(OrvhostScript, BadScriptsNameTheCommandAndTheFault) {
       {"spin 1508", "spin needs a number of steps"},
       {"spin 1508 0", "spin needs a number of steps"},
       {"spin 0 1", "spin needs a control id"},
+      {"color 2402", "color needs a grid cell from 0 to 62"},
+      {"color 2402 63", "color needs a grid cell from 0 to 62"},
+      {"color 0 5", "color needs a control id"},
       {"wait 60001", "wait needs milliseconds"},
       {"ok now", "unexpected \"now\" after ok"},
       {"text 5 \"open", "no closing quote"},
