@@ -38,6 +38,23 @@ void CLinePgBase::Save(XmlNode propertyPage) {
   }
 }
 
+orv::PageColorButtons* CLinePgBase::Buttons() const {
+  const auto found = buttons_.find(Window());
+  return found == buttons_.end() ? nullptr : found->second.get();
+}
+
+std::uint32_t CLinePgBase::ButtonColor() const {
+  if (orv::PageColorButtons* buttons = Buttons(); buttons && buttons->IsAttached(IDC_LINE_PG_COLOR))
+    return buttons->Color(IDC_LINE_PG_COLOR);
+  return heldColor_;
+}
+
+void CLinePgBase::SetButtonColor(std::uint32_t color) {
+  heldColor_ = color;
+  if (orv::PageColorButtons* buttons = Buttons(); buttons && buttons->IsAttached(IDC_LINE_PG_COLOR))
+    buttons->SetColor(IDC_LINE_PG_COLOR, color);
+}
+
 bool CLinePgBase::OnInit() {
   updating_ = true;
   orv::Controls& c = Ctl();
@@ -51,6 +68,10 @@ bool CLinePgBase::OnInit() {
   c.ShowDlgItem(IDC_LINE_PG_SHOW_GRID, kind_ == 1);
   c.EnableDlgItem(IDC_LINE_PG_SHOW_PRICE, showPriceUsed_);
   c.ShowDlgItem(IDC_LINE_PG_SHOW_PRICE, showPriceUsed_);
+  if (std::unique_ptr<orv::PageColorButtons> buttons = orv::MakePageColorButtons()) {
+    buttons->Attach(Window(), IDC_LINE_PG_COLOR, false, heldColor_);
+    buttons_[Window()] = std::move(buttons);
+  }
   updating_ = false;
   FillList();
   Exchange(false, -1);
@@ -87,7 +108,7 @@ bool CLinePgBase::Exchange(bool save, int controlId) {
     // Into the line whose values the controls hold; a page without lines has none to keep.
     if (static_cast<std::size_t>(lastShown_) < lines_.size()) {
       CLineProp& line = lines_[lastShown_];
-      line.Color = heldColor_;
+      line.Color = ButtonColor();
       int style = line.Style;
       int weight = line.Weight;
       DDX_ComboData(IDC_LINE_PG_STYLE, &style, true);
@@ -99,7 +120,7 @@ bool CLinePgBase::Exchange(bool save, int controlId) {
     const CLineProp shown =
         static_cast<std::size_t>(selected_) < lines_.size() ? lines_[selected_] : CLineProp{};
     ApplyFlagRule(shown);
-    heldColor_ = shown.Color;
+    SetButtonColor(shown.Color);
     int style = shown.Style;
     int weight = shown.Weight;
     DDX_ComboData(IDC_LINE_PG_STYLE, &style, false);

@@ -8,9 +8,12 @@
 // box away, bit 4 its weight box.
 
 #include <cstdint>
+#include <map>
+#include <memory>
 #include <vector>
 
 #include "dlgkit/LineProp.h"
+#include "dlgkit/PageColorButtons.h"
 #include "dlgkit/ThemedPage.h"
 #include "linestudies/LineStudiesRes.h"
 #include "linestudies/LineStudyPage.h"
@@ -39,8 +42,8 @@ class CLinePgBase : public orv::ThemedPage<CLinePgBase>, public orv::LineStudyPa
   void SetDirty(bool flag) { dirty_ = flag; }
 
   // The colour button's colour, and a colour picked on it (as its drop-down does).
-  std::uint32_t ButtonColor() const { return heldColor_; }
-  void SetButtonColor(std::uint32_t color) { heldColor_ = color; }
+  std::uint32_t ButtonColor() const;
+  void SetButtonColor(std::uint32_t color);
 
   std::int32_t Kind() const { return kind_; }
   // The tab's name by kind.
@@ -62,6 +65,7 @@ class CLinePgBase : public orv::ThemedPage<CLinePgBase>, public orv::LineStudyPa
   void ApplyFlagRule(const CLineProp& line);
   void OnSelectLine();
   CLineProp& Line(int index);
+  orv::PageColorButtons* Buttons() const;
 
   std::vector<CLineProp> lines_;
   int selected_ = 0;
@@ -72,7 +76,9 @@ class CLinePgBase : public orv::ThemedPage<CLinePgBase>, public orv::LineStudyPa
   std::int32_t showGrid_ = 0;
   bool showPrice_ = false;
   bool showPriceUsed_;
-  std::uint32_t heldColor_ = 0;
+  std::uint32_t heldColor_ = 0;  // what the button shows without the platform's
+  // The platform's button, one per window of the page (a page named twice has two).
+  std::map<orv::WindowHandle, std::unique_ptr<orv::PageColorButtons>> buttons_;
 };
 
 template <int id>

@@ -70,14 +70,23 @@ void CLsPgLineTab::ReloadWindow() {
   updating_ = false;
 }
 
-void CLsPgLineTab::AttachColorButtons() {}
+void CLsPgLineTab::AttachColorButtons() {
+  std::unique_ptr<orv::PageColorButtons> buttons = orv::MakePageColorButtons();
+  if (!buttons) return;
+  for (int row = 0; row < rows_; ++row) buttons->Attach(Window(), RowId(row, kColorButton), false, heldColors_[row]);
+  buttons_[Window()] = std::move(buttons);
+}
 
-void CLsPgLineTab::KeepButtonColors() {}
+orv::PageColorButtons* CLsPgLineTab::Buttons() const {
+  const auto found = buttons_.find(Window());
+  return found == buttons_.end() ? nullptr : found->second.get();
+}
 
 std::uint32_t CLsPgLineTab::ButtonColor(int id) const {
   const int row = (id - kFirstRowId) / kRowStep;
   if (id < kFirstRowId || (id - kFirstRowId) % kRowStep != kColorButton || static_cast<std::size_t>(row) >= heldColors_.size())
     throw XmlComError(orv::kStatusInvalidArg, "line tab: no such colour button");
+  if (orv::PageColorButtons* buttons = Buttons(); buttons && buttons->IsAttached(id)) return buttons->Color(id);
   return heldColors_[row];
 }
 
@@ -87,6 +96,7 @@ void CLsPgLineTab::SetButtonColor(int id, std::uint32_t color) {
     throw XmlComError(orv::kStatusInvalidArg, "line tab: no such colour button");
   if (heldColors_.size() <= static_cast<std::size_t>(row)) heldColors_.resize(row + 1, 0);
   heldColors_[row] = color;
+  if (orv::PageColorButtons* buttons = Buttons(); buttons && buttons->IsAttached(id)) buttons->SetColor(id, color);
 }
 
 void CLsPgLineTab::ExchangeRow(int row, bool save, int controlId) {

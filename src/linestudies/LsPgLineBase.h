@@ -8,10 +8,12 @@
 // (LineVis), +2 the colour button, +3 style, +4 weight, +5 the ratio.
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <vector>
 
 #include "dlgkit/LineProp.h"
+#include "dlgkit/PageColorButtons.h"
 #include "dlgkit/ThemedPage.h"
 #include "linestudies/LineStudiesRes.h"
 #include "linestudies/LineStudyPage.h"
@@ -88,10 +90,13 @@ class CLsPgLineTab : public orv::ThemedPage<CLsPgLineTab>, public orv::LineStudy
 
  private:
   void AttachColorButtons();
-  void KeepButtonColors();
+  // The platform's buttons of the window the page is pointed at; null without them.
+  orv::PageColorButtons* Buttons() const;
   void ExchangeRow(int row, bool save, int controlId);
 
-  std::vector<std::uint32_t> heldColors_;  // row by row, while no platform button holds them
+  std::vector<std::uint32_t> heldColors_;  // row by row: what a button shows without the platform's
+  // The platform's buttons, one set per window of the page (a page named twice has two).
+  std::map<orv::WindowHandle, std::unique_ptr<orv::PageColorButtons>> buttons_;
 };
 
 // A line tab with its dialog id: its template, help topic and apply code.

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "LsSheetRun.h"
 #include "LsTestXml.h"
 #include "dlgkit/Controls.h"
+#include "dlgkit/fake/FakePageColorButtons.h"
 #include "dlgkit/fake/HeadlessSheetRunner.h"
 #include "linestudies/GraphObjLinePg.h"
 #include "linestudies/LsPgLineFibo.h"
@@ -423,6 +425,50 @@ TEST(LsGraphObjLinePage, ChoosingAnotherLineKeepsTheEditsOfTheOneShown) {
                               "<LineList><Line Name=\"Up\" Color=\"11259375\" Weight=\"1\" Style=\"4\" Flags=\"0\"/>"
                               "<Line Name=\"\" Color=\"2\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"
                               "<Line Name=\"Down\" Color=\"3\" Weight=\"1\" Style=\"0\" Flags=\"2\"/></LineList>")});
+}
+
+// --- the platform's colour buttons ---
+
+TEST(LsLineColorButtons, EachRowsButtonShowsItsLineAndWhatTheUserPicksIsSent) {
+  orv::FakePageColorButtons buttons;
+  std::vector<Ln> lines = Named(3);
+  SheetRun run;
+  run.Run(SheetXml("LsPgLineParallel", "<CParallel>" + LinesXml(lines) + "</CParallel>"), nullptr,
+          [&](HeadlessSheetRunner& r) {
+            std::map<int, std::uint32_t> shown;
+            for (const auto& [id, button] : buttons.Attached()) {
+              EXPECT_FALSE(button.offerNoColor);
+              shown[id] = button.color;
+            }
+            EXPECT_EQ(shown, (std::map<int, std::uint32_t>{{2402, lines[0].color}, {2412, lines[1].color},
+                                                           {2422, lines[2].color}}));
+            buttons.Pick(r.Tab(0), 2422, 0x00FF00);
+            EXPECT_TRUE(r.Sheet().PressOk());
+          });
+  lines[2].color = 0x00FF00;
+  EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
+                              "LsPgLineParallel", "<CParallel>" + LinesXml(lines) + "<ShowPriceBox>TRUE</ShowPriceBox></CParallel>")});
+}
+
+TEST(LsLineColorButtons, TheLinePagesButtonOpensOnTheChosenLineAndKeepsThePick) {
+  orv::FakePageColorButtons buttons;
+  SheetRun run;
+  run.Run(SheetXml("GraphObjLinePg", "<LineList><Line Name=\"A\" Color=\"5\"/><Line Name=\"B\" Color=\"6\"/></LineList>"),
+          nullptr, [&](HeadlessSheetRunner& r) {
+            FakeControls& c = r.Tab(0);
+            EXPECT_EQ(buttons.Color(IDC_LINE_PG_COLOR), 5u);
+            c.SelectListItem(IDC_LINE_PG_LIST, 1);
+            EXPECT_EQ(buttons.Color(IDC_LINE_PG_COLOR), 6u);
+            buttons.Hold(IDC_LINE_PG_COLOR, 99);  // left from an earlier drop-down
+            c.Click(IDC_LINE_PG_COLOR);
+            EXPECT_EQ(buttons.Color(IDC_LINE_PG_COLOR), 6u) << "the drop-down opens on the line's colour";
+            buttons.Hold(IDC_LINE_PG_COLOR, 7);  // the user's pick
+            EXPECT_TRUE(r.Sheet().PressOk());
+          });
+  EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
+                              "GraphObjLinePg",
+                              "<LineList><Line Name=\"A\" Color=\"5\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"
+                              "<Line Name=\"B\" Color=\"7\" Weight=\"1\" Style=\"0\" Flags=\"0\"/></LineList>")});
 }
 
 TEST(LsGraphObjLinePage, TheKindNamesTheTabAndOffersItsBoxes) {
