@@ -20,7 +20,7 @@ constexpr DWORD kSheetTimeoutMilliseconds = 15000;
 // A command that opens a window of its own (a message box) and waits on it this long is stuck.
 constexpr DWORD kStuckMilliseconds = 5000;
 // A colour button's drop-down closes within this after a cell is clicked.
-constexpr DWORD kColorCloseMilliseconds = 5000;
+constexpr DWORD kColorCloseMilliseconds = 10000;
 
 ScriptDriver* g_running = nullptr;  // the timer callback carries no context
 
@@ -107,7 +107,13 @@ std::string PickGridColor(HWND button, int id, int cell) {
   SendMessageW(button, BM_CLICK, 0, 0);
   const HWND popup = FindColorPopup();
   if (popup == nullptr) return StrFormat("control %d opened no colour drop-down", id);
-  const HWND grid = GetDlgItem(popup, kIdcColorGrid);
+  // The grid takes the placeholder's place and id, right behind it: the child of that id that
+  // isn't the placeholder's static.
+  HWND grid = nullptr;
+  for (HWND child = GetWindow(popup, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+    if (GetDlgCtrlID(child) == kIdcColorGrid && _stricmp(ClassOf(child).c_str(), "Static") != 0) grid = child;
+  }
+  if (grid == nullptr) return StrFormat("the drop-down of control %d has no colour grid", id);
   RECT client{};
   GetClientRect(grid, &client);
   const HDC screen = GetDC(nullptr);
