@@ -427,6 +427,30 @@ TEST(LsGraphObjLinePage, ChoosingAnotherLineKeepsTheEditsOfTheOneShown) {
                               "<Line Name=\"Down\" Color=\"3\" Weight=\"1\" Style=\"0\" Flags=\"2\"/></LineList>")});
 }
 
+TEST(LsLineTabs, ATabNamedTwiceShowsInEachWindowWhatWasEnteredInTheOther) {
+  std::vector<Ln> lines = Named(3);
+  const std::string page = "<PropertyPage Name=\"LsPgLineParallel\"><CParallel>" + LinesXml(lines) + "</CParallel></PropertyPage>";
+  SheetRun run;
+  run.Run("<PropertySheet Name=\"LSPs\"><PropertyPageList>" + page + page + "</PropertyPageList></PropertySheet>", nullptr,
+          [&](HeadlessSheetRunner& r) {
+            r.Tab(0).SelectComboItem(Row(2, CLsPgLineTab::kStyleBox), 3);
+            PickColor(run, 1396, r.Tab(0), Row(1, CLsPgLineTab::kColorButton), 0x00FFFF);
+            ASSERT_TRUE(r.Sheet().SelectPage(1));
+            FakeControls& second = r.Tab(1);
+            EXPECT_EQ(second.ComboGetCurSel(Row(2, CLsPgLineTab::kStyleBox)), 3);
+            EXPECT_EQ(LineTab(run, 1396).ButtonColor(Row(1, CLsPgLineTab::kColorButton)), 0x00FFFFu);
+            second.Click(Row(0, CLsPgLineTab::kVisibleBox));
+            ASSERT_TRUE(r.Sheet().SelectPage(0));
+            EXPECT_EQ(r.Tab(0).IsDlgButtonChecked(Row(0, CLsPgLineTab::kVisibleBox)), orv::kBstUnchecked);
+            EXPECT_TRUE(r.Sheet().PressOk());
+          });
+  lines[2].style = 3;
+  lines[1].color = 0x00FFFF;
+  lines[0].visible = false;
+  EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
+                              "LsPgLineParallel", "<CParallel>" + LinesXml(lines) + "<ShowPriceBox>TRUE</ShowPriceBox></CParallel>")});
+}
+
 // --- the platform's colour buttons ---
 
 TEST(LsLineColorButtons, EachRowsButtonShowsItsLineAndWhatTheUserPicksIsSent) {
