@@ -120,6 +120,8 @@ TEST_F(ScriptDriverTest, ACommandAUserCouldNotDoCancelsTheSheetAndSaysWhy) {
       {"toggle 202 0", "control 202 is a ComboBox, not a list box"},
       {"toggle 208 0", "control 208 is a list box of one selection: select its rows"},
       {"toggle 206 20", "control 206 has 20 items, no item 20"},
+      {"color 201 27", "command 1 (\"color 201 27\"): control 201 opened no colour drop-down"},
+      {"color 204 27", "control 204 is hidden"},
       {"text 200 \"a b\"; expect 200 a", "command 2 (\"expect 200 a\"): control 200 shows \"a b\", not \"a\""},
       {"expect 204 Hidden", "control 204 is hidden"},
       {"select 202 2; expect 202 High", "control 202 shows \"Low\", not \"High\""},
