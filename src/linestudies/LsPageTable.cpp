@@ -1,11 +1,13 @@
 #include "linestudies/LsPageTable.h"
 
 #include "linestudies/LsPgAdvanced.h"
+#include "linestudies/LsPgDayCycfnd.h"
 #include "linestudies/LsPgDayHorz.h"
 #include "linestudies/LsPgDayLRC.h"
 #include "linestudies/LsPgDayTrend.h"
 #include "linestudies/LsPgDayVWAP.h"
 #include "linestudies/LsPgDayVert.h"
+#include "linestudies/LsPgIntraCycfnd.h"
 #include "linestudies/LsPgIntraLRC.h"
 #include "linestudies/LsPgIntraTrend.h"
 #include "linestudies/LsPgIntraVWAP.h"
@@ -31,14 +33,14 @@ constexpr LsPageInfo kPages[kLsPageCount] = {
     {"LsPgDayGann", "CLsPgDayGann", 1315, nullptr, true},
     {"LsPgDayPfork", "CLsPgDayPfork", 1316, nullptr, true},
     {"LsPgDayShape", "CLsPgDayShape", 1320, nullptr, true},
-    {"LsPgDayCycfnd", "CLsPgDayCycfnd", 1321, nullptr, true},
+    {"LsPgDayCycfnd", "CLsPgDayCycfnd", 1321, &Make<CLsPgDayCycfnd>, true},
     {"LsPgIntraTrend", "CLsPgIntraTrend", 1326, &Make<CLsPgIntraTrend>, true},
     {"LsPgIntraVert", "CLsPgIntraVert", 1327, &Make<CLsPgIntraVert>, true},
     {"LsPgIntraFibo", "CLsPgIntraFibo", 1323, nullptr, true},
     {"LsPgIntraGann", "CLsPgIntraGann", 1324, nullptr, true},
     {"LsPgIntraPfork", "CLsPgIntraPfork", 1325, nullptr, true},
     {"LsPgIntraShape", "CLsPgIntraShape", 1328, nullptr, true},
-    {"LsPgIntraCycfnd", "CLsPgIntraCycfnd", 1329, nullptr, true},
+    {"LsPgIntraCycfnd", "CLsPgIntraCycfnd", 1329, &Make<CLsPgIntraCycfnd>, true},
     {"LsPgLineFibo", "CLsPgLineFibo", 1330, nullptr, false},
     {"LsPgLineGann", "CLsPgLineGann", 1331, nullptr, false},
     {"LsPgLinePfork", "CLsPgLinePfork", 1332, nullptr, false},
