@@ -12,6 +12,7 @@
 #include "linestudies/LsPgIntraTrend.h"
 #include "linestudies/LsPgIntraVWAP.h"
 #include "linestudies/LsPgIntraVert.h"
+#include "linestudies/LsPgText.h"
 
 namespace orv {
 
@@ -44,7 +45,7 @@ constexpr LsPageInfo kPages[kLsPageCount] = {
     {"LsPgLineFibo", "CLsPgLineFibo", 1330, nullptr, false},
     {"LsPgLineGann", "CLsPgLineGann", 1331, nullptr, false},
     {"LsPgLinePfork", "CLsPgLinePfork", 1332, nullptr, false},
-    {"LsPgText", "CLsPgText", 1333, nullptr, false},
+    {"LsPgText", "CLsPgText", 1333, &Make<CLsPgText>, false},
     {"LsPgAdvanced", "CLsPgAdvanced", 1352, &Make<CLsPgAdvanced>, false},
     {"LsPgStatsShow", "CLsPgStatsShow", 1353, nullptr, false},
     {"LsPgStatsPos", "CLsPgStatsPos", 1354, nullptr, true},
