@@ -91,4 +91,20 @@ DoModal returned 1" --intraday --doc "$(doc cycfnd-intra.xml)" --script "expect 
 case_ "cycle finder: period 251 keeps the sheet open without a box; Cancel sends nothing" 0 "DoModal returned 0" \
   --doc "$(doc cycfnd-day.xml)" --script "text 1470 251; ok; cancel"
 
+# The text page: the transparency shown as a percentage (opacity 204 is 20 %), 35 % typed (sent as
+# trunc(65 * 2.5501) = 165), the lock clicked, applied; the colour and the font go back as they came.
+text_page() {
+  printf '%s' 'StatusEvent: <PropertySheet Name="LSPs"><PropertyPageList><PropertyPage Name="LsPgText"><CLineStudy><PosLock>TRUE</PosLock></CLineStudy>'
+  printf '%s' '<CTrendtext><LSTxt_TextColor>RGB(0,0,128)</LSTxt_TextColor><LSTxt_Transparency>165</LSTxt_Transparency>'
+  printf '%s' '<CFontInfo Version="3" FaceName="Tahoma" PtSize="10" Height="100000" Width="0" Weight="400" Italic="0" Underline="0" PitchAndFamily="0"/></CTrendtext></PropertyPage></PropertyPageList></PropertySheet>'
+}
+case_ "text page: transparency typed, lock clicked, applied" 1 "$(text_page)
+DoModal returned 1" --no-chart-data --doc "$(doc text.xml)" --script "expect 1423 20; text 1423 35; click 227; apply; ok"
+
+# The font dialog is the platform's, over the sheet: cancelled (Esc), it changes nothing.
+case_ "text page: the font dialog cancelled sends nothing" 0 "DoModal returned 0" \
+  --doc "$(doc text.xml)" --script "click 1421; cancel" --box-screenshot "$(winepath -w "$box")"
+[ -s "$box" ] || { echo "FAIL the font dialog: no picture written"; failures=$((failures + 1)); }
+rm -f "$box"
+
 exit "$failures"
