@@ -5,10 +5,10 @@
 // the period at save. Period and direction are derived from the two points (the Day page when
 // its window opens, the Intra page at load) and are not stored.
 
-#include <cstdint>
-#include <cstdlib>
 #include <algorithm>
 #include <climits>
+#include <cstdint>
+#include <cstdlib>
 
 #include "linestudies/LsPgPosition.h"
 #include "linestudies/LsSpinField.h"

@@ -69,8 +69,8 @@ TEST(LsCycfndPages, ThePeriodComesFromThePointsAndTheEndFromThePeriod) {
     int start, end;     // bars of the points the host sends
     const char* shown;  // the period box
     std::function<void(FakeControls&, const Page&)> change;
-    int sentEnd;  // the bar of the second point sent
-    bool locked;  // PosLock sent
+    int sentEnd;                // the bar of the second point sent
+    bool locked;                // PosLock sent
     bool pastTheChart = false;  // the end lands after the last bar
   };
   auto lock = [](FakeControls& c, const Page&) { c.Click(IDC_LS_POS_LOCK); };
@@ -84,8 +84,8 @@ TEST(LsCycfndPages, ThePeriodComesFromThePointsAndTheEndFromThePeriod) {
       {"past the last bar", 300, 310, "10", [](FakeControls& c, const Page& p) { c.TypeText(p.period, "250"); }, 550,
        true, true},
       {"backwards: shown as a positive span, sent on the start", 110, 100, "10", lock, 110, false},
-      {"backwards with a new period", 110, 100, "10",
-       [](FakeControls& c, const Page& p) { c.TypeText(p.period, "4"); }, 110, true},
+      {"backwards with a new period", 110, 100, "10", [](FakeControls& c, const Page& p) { c.TypeText(p.period, "4"); },
+       110, true},
       {"both on one bar", 100, 100, "0", lock, 100, false},
   };
   for (const Page& page : {kDay, kIntra}) {
@@ -95,15 +95,15 @@ TEST(LsCycfndPages, ThePeriodComesFromThePointsAndTheEndFromThePeriod) {
       const Pt start = PtFor(page, *chart, c.start, 101.5);
       const Pt end = PtFor(page, *chart, c.end, 99.25);
       SheetRun run;
-      const auto result = run.Run(SheetXml(page.name, Outside(page) + Cycle(true, {start, end})), chart,
-                                  [&](HeadlessSheetRunner& r) {
-                                    FakeControls& tab = r.Tab(0);
-                                    EXPECT_EQ(tab.GetDlgItemTextA(page.period, 64), c.shown);
-                                    EXPECT_EQ(tab.Control(page.spin).pos, std::stoi(c.shown));
-                                    EXPECT_FALSE(tab.IsSheetChanged());
-                                    c.change(tab, page);
-                                    EXPECT_TRUE(r.Sheet().PressOk());
-                                  });
+      const auto result =
+          run.Run(SheetXml(page.name, Outside(page) + Cycle(true, {start, end})), chart, [&](HeadlessSheetRunner& r) {
+            FakeControls& tab = r.Tab(0);
+            EXPECT_EQ(tab.GetDlgItemTextA(page.period, 64), c.shown);
+            EXPECT_EQ(tab.Control(page.spin).pos, std::stoi(c.shown));
+            EXPECT_FALSE(tab.IsSheetChanged());
+            c.change(tab, page);
+            EXPECT_TRUE(r.Sheet().PressOk());
+          });
       EXPECT_EQ(result, 1);
       Pt sentEnd = c.pastTheChart ? end : PtFor(page, *chart, c.sentEnd, 99.25);
       if (page.intra) sentEnd.xPos = c.sentEnd;
@@ -156,27 +156,28 @@ TEST(LsCycfndPages, APeriodOutOfRangeIsRefusedWithoutASoundAndNonsenseBeeps) {
     bool beeps;
   };
   const Case cases[] = {
-      {"251", true, false}, {"-1", true, false}, {"99999", true, false}, {"12x", true, true}, {"", true, true},
-      {"0", false, false},  {"250", false, false}, {" 17 ", false, false},
+      {"251", true, false}, {"-1", true, false}, {"99999", true, false}, {"12x", true, true},
+      {"", true, true},     {"0", false, false}, {"250", false, false},  {" 17 ", false, false},
   };
   for (const Page& page : {kDay, kIntra}) {
     for (const Case& c : cases) {
       SCOPED_TRACE(std::string(page.name) + " \"" + c.typed + "\"");
       Chart chart = ChartFor(page);
       SheetRun run;
-      run.Run(SheetXml(page.name, Outside(page) + Cycle(false, {PtFor(page, *chart, 20, 1), PtFor(page, *chart, 30, 2)})),
-              chart, [&](HeadlessSheetRunner& r) {
-                FakeControls& tab = r.Tab(0);
-                tab.TypeText(page.period, c.typed);
-                tab.SetFocus(IDC_LS_POS_LOCK);
-                EXPECT_EQ(r.Sheet().PressApply(), !c.refused);
-                EXPECT_EQ(r.Sheet().IsRunning(), true);
-                EXPECT_EQ(r.Sheet().CurrentPage(), 0);
-                EXPECT_TRUE(tab.MessageBoxes().empty());
-                EXPECT_EQ(tab.Beeps().size(), c.beeps ? 1u : 0u);
-                EXPECT_EQ(tab.GetFocus(), c.beeps ? page.period : IDC_LS_POS_LOCK);
-                r.Sheet().PressCancel();
-              });
+      run.Run(
+          SheetXml(page.name, Outside(page) + Cycle(false, {PtFor(page, *chart, 20, 1), PtFor(page, *chart, 30, 2)})),
+          chart, [&](HeadlessSheetRunner& r) {
+            FakeControls& tab = r.Tab(0);
+            tab.TypeText(page.period, c.typed);
+            tab.SetFocus(IDC_LS_POS_LOCK);
+            EXPECT_EQ(r.Sheet().PressApply(), !c.refused);
+            EXPECT_EQ(r.Sheet().IsRunning(), true);
+            EXPECT_EQ(r.Sheet().CurrentPage(), 0);
+            EXPECT_TRUE(tab.MessageBoxes().empty());
+            EXPECT_EQ(tab.Beeps().size(), c.beeps ? 1u : 0u);
+            EXPECT_EQ(tab.GetFocus(), c.beeps ? page.period : IDC_LS_POS_LOCK);
+            r.Sheet().PressCancel();
+          });
       EXPECT_EQ(run.owner.events.size(), c.refused ? 0u : 1u);
     }
   }
@@ -189,32 +190,33 @@ TEST(LsCycfndPages, TheUpDownStepsFromWhatTheBoxShowsWithinZeroTo250) {
     const char* after;
   };
   const Case cases[] = {
-      {nullptr, 1, "11"}, {nullptr, -1, "9"}, {"7", 1, "8"},      {"250", 1, "250"},
-      {"0", -1, "0"},     {"300", -1, "250"}, {"abc", 1, "11"},   {"", -1, "9"},
+      {nullptr, 1, "11"}, {nullptr, -1, "9"}, {"7", 1, "8"},    {"250", 1, "250"},
+      {"0", -1, "0"},     {"300", -1, "250"}, {"abc", 1, "11"}, {"", -1, "9"},
   };
   for (const Page& page : {kDay, kIntra}) {
     for (const Case& c : cases) {
       SCOPED_TRACE(std::string(page.name) + " " + (c.shown ? c.shown : "loaded") + " " + std::to_string(c.delta));
       Chart chart = ChartFor(page);
       SheetRun run;
-      run.Run(SheetXml(page.name, Outside(page) + Cycle(false, {PtFor(page, *chart, 20, 1), PtFor(page, *chart, 30, 2)})),
-              chart, [&](HeadlessSheetRunner& r) {
-                FakeControls& tab = r.Tab(0);
-                EXPECT_EQ(tab.Control(page.spin).lower, 0);
-                EXPECT_EQ(tab.Control(page.spin).upper, 250);
-                if (c.shown) tab.SetDlgItemTextA(page.period, c.shown);
-                tab.ClearSheetChanged();
-                tab.ClickSpin(page.spin, c.delta);
-                EXPECT_EQ(tab.GetDlgItemTextA(page.period, 64), c.after);
-                EXPECT_EQ(tab.Control(page.spin).pos, std::stoi(c.after));
-                EXPECT_TRUE(tab.IsSheetChanged()) << "a step is the user's change";
-                EXPECT_TRUE(r.Sheet().PressOk());
-              });
+      run.Run(
+          SheetXml(page.name, Outside(page) + Cycle(false, {PtFor(page, *chart, 20, 1), PtFor(page, *chart, 30, 2)})),
+          chart, [&](HeadlessSheetRunner& r) {
+            FakeControls& tab = r.Tab(0);
+            EXPECT_EQ(tab.Control(page.spin).lower, 0);
+            EXPECT_EQ(tab.Control(page.spin).upper, 250);
+            if (c.shown) tab.SetDlgItemTextA(page.period, c.shown);
+            tab.ClearSheetChanged();
+            tab.ClickSpin(page.spin, c.delta);
+            EXPECT_EQ(tab.GetDlgItemTextA(page.period, 64), c.after);
+            EXPECT_EQ(tab.Control(page.spin).pos, std::stoi(c.after));
+            EXPECT_TRUE(tab.IsSheetChanged()) << "a step is the user's change";
+            EXPECT_TRUE(r.Sheet().PressOk());
+          });
       ASSERT_EQ(run.Events().size(), 1u);
       const Pt end = PtFor(page, *chart, 20 + std::stoi(c.after), 2);
-      EXPECT_NE(run.Events()[0].find(page.intra ? lstest::PtXml(end)
-                                                : orv::StrFormat("<XY_lDate>%d</XY_lDate>", end.lDate)),
-                std::string::npos)
+      EXPECT_NE(
+          run.Events()[0].find(page.intra ? lstest::PtXml(end) : orv::StrFormat("<XY_lDate>%d</XY_lDate>", end.lDate)),
+          std::string::npos)
           << run.Events()[0];
     }
   }
@@ -225,18 +227,17 @@ TEST(LsCycfndPages, TheUpDownStepsFromWhatTheBoxShowsWithinZeroTo250) {
 TEST(LsCycfndPages, TheDayPageWithoutChartDataShowsPeriodZeroAndRefusesEveryDate) {
   Chart chart = SyntheticChartData::Daily();
   SheetRun run;
-  const auto result =
-      run.Run(SheetXml(kDay.name, Cycle(false, {DayPt(*chart, 20, 1), DayPt(*chart, 30, 2)})), nullptr,
-              [](HeadlessSheetRunner& r) {
-                FakeControls& tab = r.Tab(0);
-                EXPECT_EQ(tab.GetDlgItemTextA(IDC_LS_DAY_CYC_PERIOD, 64), "0");
-                tab.TypeText(IDC_LS_DAY_CYC_PERIOD, "5");
-                EXPECT_FALSE(r.Sheet().PressOk());
-                ASSERT_EQ(tab.MessageBoxes().size(), 1u);
-                EXPECT_EQ(tab.MessageBoxes()[0].text.rfind("Holiday or other invalid date:\n", 0), 0u);
-                EXPECT_EQ(tab.GetFocus(), IDC_LS_DAY_DATE);
-                EXPECT_TRUE(r.Sheet().PressCancel());
-              });
+  const auto result = run.Run(SheetXml(kDay.name, Cycle(false, {DayPt(*chart, 20, 1), DayPt(*chart, 30, 2)})), nullptr,
+                              [](HeadlessSheetRunner& r) {
+                                FakeControls& tab = r.Tab(0);
+                                EXPECT_EQ(tab.GetDlgItemTextA(IDC_LS_DAY_CYC_PERIOD, 64), "0");
+                                tab.TypeText(IDC_LS_DAY_CYC_PERIOD, "5");
+                                EXPECT_FALSE(r.Sheet().PressOk());
+                                ASSERT_EQ(tab.MessageBoxes().size(), 1u);
+                                EXPECT_EQ(tab.MessageBoxes()[0].text.rfind("Holiday or other invalid date:\n", 0), 0u);
+                                EXPECT_EQ(tab.GetFocus(), IDC_LS_DAY_DATE);
+                                EXPECT_TRUE(r.Sheet().PressCancel());
+                              });
   EXPECT_EQ(result, 0);
   EXPECT_TRUE(run.owner.events.empty());
 
@@ -251,7 +252,8 @@ TEST(LsCycfndPages, TheDayPageWithoutChartDataShowsPeriodZeroAndRefusesEveryDate
 
 TEST(LsCycfndPages, IntraPageWithoutChartDataMovesTheEndByThePeriodAlone) {
   SheetRun run;
-  run.Run(SheetXml(kIntra.name, "<MaxPos>50</MaxPos>" + Cycle(false, {Pt{4, 1, 45000, 600, 36000}, Pt{9, 2, 45000, 625, 37500}})),
+  run.Run(SheetXml(kIntra.name,
+                   "<MaxPos>50</MaxPos>" + Cycle(false, {Pt{4, 1, 45000, 600, 36000}, Pt{9, 2, 45000, 625, 37500}})),
           nullptr, [](HeadlessSheetRunner& r) {
             EXPECT_EQ(r.Tab(0).GetDlgItemTextA(IDC_LS_INTRA_CYC_PERIOD, 64), "5");
             r.Tab(0).TypeText(IDC_LS_INTRA_CYC_PERIOD, "12");
@@ -268,12 +270,13 @@ TEST(LsCycfndPages, VertexButtonsStayHiddenAndTheLockShowsOnlyWithPosLock) {
       std::string study = Cycle(false, {Pt{4, 1}, Pt{9, 2}});
       if (!hasLock) study.erase(study.find("<PosLock>FALSE</PosLock>"), 24);
       SheetRun run;
-      run.Run(SheetXml(page.name, "<VertexButtons Show=\"Yes\"/>" + study), ChartFor(page), [&](HeadlessSheetRunner& r) {
-        for (int id : {IDC_LS_VERTEX_0, IDC_LS_VERTEX_1}) EXPECT_FALSE(r.Tab(0).IsDlgItemVisible(id));
-        EXPECT_EQ(r.Tab(0).IsDlgItemVisible(IDC_LS_POS_LOCK), hasLock);
-        EXPECT_TRUE(run.sheet.PageOf(page.dialogId)->AsPage().OnHelp());
-        EXPECT_EQ(r.Tab(0).HelpRequests(), (std::vector<std::pair<std::string, int>>{{"CHARTX", page.dialogId}}));
-      });
+      run.Run(
+          SheetXml(page.name, "<VertexButtons Show=\"Yes\"/>" + study), ChartFor(page), [&](HeadlessSheetRunner& r) {
+            for (int id : {IDC_LS_VERTEX_0, IDC_LS_VERTEX_1}) EXPECT_FALSE(r.Tab(0).IsDlgItemVisible(id));
+            EXPECT_EQ(r.Tab(0).IsDlgItemVisible(IDC_LS_POS_LOCK), hasLock);
+            EXPECT_TRUE(run.sheet.PageOf(page.dialogId)->AsPage().OnHelp());
+            EXPECT_EQ(r.Tab(0).HelpRequests(), (std::vector<std::pair<std::string, int>>{{"CHARTX", page.dialogId}}));
+          });
     }
   }
 }

@@ -50,12 +50,12 @@ TEST(LsTextPage, ThePercentageShownBecomesTheHostsOpacity) {
     std::int32_t sent;
   };
   const Case cases[] = {
-      {0, 255},  // 255.01 cut
-      {1, 252},  // 252.4599
-      {2, 249},  // 249.9098
-      {50, 127}, // 127.505
-      {60, 102}, // 102.004
-      {99, 2},   // 2.5501
+      {0, 255},   // 255.01 cut
+      {1, 252},   // 252.4599
+      {2, 249},   // 249.9098
+      {50, 127},  // 127.505
+      {60, 102},  // 102.004
+      {99, 2},    // 2.5501
       {100, 0},  {101, 0}, {4000000000u, 0},
   };
   for (const Case& c : cases) {
@@ -70,8 +70,8 @@ TEST(LsTextPage, TheHostsOpacityShowsAsTheNearestPercentageAndEveryPercentageCom
     unsigned shown;
   };
   const Case cases[] = {
-      {255, 0}, {252, 1}, {254, 0}, {253, 1}, {127, 50}, {128, 50}, {129, 49}, {2, 99}, {1, 100},
-      {0, 100}, {300, 0}, {-5, 100}, {INT32_MIN, 100}, {INT32_MAX, 0},
+      {255, 0}, {252, 1}, {254, 0}, {253, 1}, {127, 50}, {128, 50},        {129, 49},
+      {2, 99},  {1, 100}, {0, 100}, {300, 0}, {-5, 100}, {INT32_MIN, 100}, {INT32_MAX, 0},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.value);
@@ -119,8 +119,7 @@ TEST(LsTextPage, ThePageSendsItsElementsInOrderWithTheUsersChange) {
   };
   auto clickLock = [](FakeControls& c) { c.Click(IDC_LS_POS_LOCK); };
   const Case cases[] = {
-      {"everything there, the lock clicked",
-       Lock("FALSE") + Trendtext("RGB(10,20,30)", "127", kTahoma), clickLock,
+      {"everything there, the lock clicked", Lock("FALSE") + Trendtext("RGB(10,20,30)", "127", kTahoma), clickLock,
        Lock("TRUE") + Trendtext("RGB(10,20,30)", "127", kTahoma)},
       {"a colour in hexadecimal and a number for the lock", Lock("1") + Trendtext("0x00336699", "255", kTahoma),
        clickLock, Lock("FALSE") + Trendtext("RGB(153,102,51)", "255", kTahoma)},
@@ -216,8 +215,9 @@ TEST(LsTextPage, ApplySendsOnceAndAgainAfterANewChange) {
             tab.TypeText(IDC_LS_TXT_TRANSP, "100");
             EXPECT_TRUE(r.Sheet().PressOk());
           });
-  EXPECT_EQ(run.Events(), (std::vector<std::string>{EventXml(kName, Lock("TRUE") + Trendtext("RGB(1,2,3)", "255", kTahoma)),
-                                                    EventXml(kName, Lock("TRUE") + Trendtext("RGB(1,2,3)", "0", kTahoma))}));
+  EXPECT_EQ(run.Events(),
+            (std::vector<std::string>{EventXml(kName, Lock("TRUE") + Trendtext("RGB(1,2,3)", "255", kTahoma)),
+                                      EventXml(kName, Lock("TRUE") + Trendtext("RGB(1,2,3)", "0", kTahoma))}));
 }
 
 TEST(LsTextPage, TheUpDownStepsTheBoxWithinZeroToOneHundred) {
