@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <optional>
@@ -322,6 +323,37 @@ TEST(LsTextPage, TheFontDialogStartsFromTheFontAndColourAndItsChoiceIsSent) {
     EXPECT_EQ(run.Events(), sent ? std::vector<std::string>{EventXml(
                                        kName, Lock("FALSE") + Trendtext(color, "255", c.answer ? courier : kTahoma))}
                                  : std::vector<std::string>{});
+  }
+}
+
+// The captions and kinds the host's users know the page by, and what starts hidden.
+TEST(LsTextPage, TheTemplateHasTheControlsOfItsDesign) {
+  struct Case {
+    int id;
+    orv::FakeControlKind kind;
+    const char* text;
+    bool visible;
+  };
+  const Case cases[] = {
+      {IDC_LS_TXT_COLOR_LABEL, orv::FakeControlKind::Static, "Color:", true},
+      {IDC_LS_TXT_COLOR, orv::FakeControlKind::PushButton, "@", true},
+      {IDC_LS_TXT_TRANSP_LABEL, orv::FakeControlKind::Static, "Transparency:", true},
+      {IDC_LS_TXT_TRANSP, orv::FakeControlKind::Edit, "", true},
+      {IDC_LS_TXT_TRANSP_SPIN, orv::FakeControlKind::UpDown, "", true},
+      {IDC_LS_TXT_FONT, orv::FakeControlKind::PushButton, "Font...", true},
+      {IDC_LS_POS_LOCK, orv::FakeControlKind::CheckBox, "Lock Position", false},
+  };
+  const orv::TemplateDialog* dialog = orv::FindTemplate(orv::templates::kDialogs, IDD_LS_PG_TEXT);
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_STREQ(dialog->caption, "General");
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.id);
+    const auto found = std::find_if(dialog->controls.begin(), dialog->controls.end(),
+                                    [&](const orv::TemplateControl& t) { return t.id == c.id; });
+    ASSERT_NE(found, dialog->controls.end());
+    EXPECT_EQ(found->kind, c.kind);
+    EXPECT_STREQ(found->text, c.text);
+    EXPECT_EQ(found->visible, c.visible);
   }
 }
 
