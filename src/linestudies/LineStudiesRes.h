@@ -75,3 +75,16 @@
 // The position pages of the studies with several anchors (Fibonacci, Gann, pitchfork, parallel).
 
 // The cycle finder and the text page.
+#define IDD_LS_PG_DAY_CYCFND 1321
+#define IDD_LS_PG_INTRA_CYCFND 1329
+#define IDD_LS_PG_TEXT 1333
+#define IDC_LS_TXT_FONT 1421
+#define IDC_LS_TXT_TRANSP_LABEL 1422
+#define IDC_LS_TXT_TRANSP 1423
+#define IDC_LS_TXT_TRANSP_SPIN 1424
+#define IDC_LS_DAY_CYC_PERIOD 1470
+#define IDC_LS_DAY_CYC_SPIN 1471
+#define IDC_LS_INTRA_CYC_PERIOD 1517
+#define IDC_LS_INTRA_CYC_SPIN 1519
+#define IDC_LS_TXT_COLOR 4670
+#define IDC_LS_TXT_COLOR_LABEL 4671

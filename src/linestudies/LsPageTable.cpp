@@ -2,11 +2,13 @@
 
 #include "linestudies/GraphObjLinePg.h"
 #include "linestudies/LsPgAdvanced.h"
+#include "linestudies/LsPgDayCycfnd.h"
 #include "linestudies/LsPgDayHorz.h"
 #include "linestudies/LsPgDayLRC.h"
 #include "linestudies/LsPgDayTrend.h"
 #include "linestudies/LsPgDayVWAP.h"
 #include "linestudies/LsPgDayVert.h"
+#include "linestudies/LsPgIntraCycfnd.h"
 #include "linestudies/LsPgIntraLRC.h"
 #include "linestudies/LsPgIntraTrend.h"
 #include "linestudies/LsPgIntraVWAP.h"
@@ -15,6 +17,7 @@
 #include "linestudies/LsPgLineGann.h"
 #include "linestudies/LsPgLineParallel.h"
 #include "linestudies/LsPgLinePfork.h"
+#include "linestudies/LsPgText.h"
 
 namespace orv {
 
@@ -36,18 +39,18 @@ constexpr LsPageInfo kPages[kLsPageCount] = {
     {"LsPgDayGann", "CLsPgDayGann", 1315, nullptr, true},
     {"LsPgDayPfork", "CLsPgDayPfork", 1316, nullptr, true},
     {"LsPgDayShape", "CLsPgDayShape", 1320, nullptr, true},
-    {"LsPgDayCycfnd", "CLsPgDayCycfnd", 1321, nullptr, true},
+    {"LsPgDayCycfnd", "CLsPgDayCycfnd", 1321, &Make<CLsPgDayCycfnd>, true},
     {"LsPgIntraTrend", "CLsPgIntraTrend", 1326, &Make<CLsPgIntraTrend>, true},
     {"LsPgIntraVert", "CLsPgIntraVert", 1327, &Make<CLsPgIntraVert>, true},
     {"LsPgIntraFibo", "CLsPgIntraFibo", 1323, nullptr, true},
     {"LsPgIntraGann", "CLsPgIntraGann", 1324, nullptr, true},
     {"LsPgIntraPfork", "CLsPgIntraPfork", 1325, nullptr, true},
     {"LsPgIntraShape", "CLsPgIntraShape", 1328, nullptr, true},
-    {"LsPgIntraCycfnd", "CLsPgIntraCycfnd", 1329, nullptr, true},
+    {"LsPgIntraCycfnd", "CLsPgIntraCycfnd", 1329, &Make<CLsPgIntraCycfnd>, true},
     {"LsPgLineFibo", "CLsPgLineFibo", 1330, &Make<CLsPgLineFibo>, false},
     {"LsPgLineGann", "CLsPgLineGann", 1331, &Make<CLsPgLineGann>, false},
     {"LsPgLinePfork", "CLsPgLinePfork", 1332, &Make<CLsPgLinePfork>, false},
-    {"LsPgText", "CLsPgText", 1333, nullptr, false},
+    {"LsPgText", "CLsPgText", 1333, &Make<CLsPgText>, false},
     {"LsPgAdvanced", "CLsPgAdvanced", 1352, &Make<CLsPgAdvanced>, false},
     {"LsPgStatsShow", "CLsPgStatsShow", 1353, nullptr, false},
     {"LsPgStatsPos", "CLsPgStatsPos", 1354, nullptr, true},

@@ -7,3 +7,4 @@ orv_add_fuzzer(fuzz_lspages_lines ${CMAKE_CURRENT_LIST_DIR}/LsLineTabsFuzz.cpp o
 # The position pages of the studies with several anchors.
 
 # The cycle finder and the text page.
+orv_add_fuzzer(fuzz_lspages_cycle_text ${CMAKE_CURRENT_LIST_DIR}/LsCycleTextFuzz.cpp orv_linestudies_templates)

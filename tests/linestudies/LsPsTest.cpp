@@ -43,14 +43,14 @@ TEST(LsPsLoad, TitleAndTabsInOrderUnknownAndUnbuiltNamesPassedOver) {
       SheetNode("<PropertySheet Name=\"LSPs\" Title=\"Fibonacci Retracement\" Kind=\"6\"><PropertyPageList>"
                 "<PropertyPage Name=\"NoSuchPage\"/><PropertyPage Name=\"lspgadvanced\"/>"
                 "<PropertyPage Name=\"LsPgAdvanced\"><LSTxt_ScrnAnch>TRUE</LSTxt_ScrnAnch></PropertyPage>"
-                "<PropertyPage Name=\"LsPgText\"/></PropertyPageList></PropertySheet>"));
+                "<PropertyPage Name=\"LsPgDayShape\"/></PropertyPageList></PropertySheet>"));
   EXPECT_EQ(run.sheet.Title(), "Fibonacci Retracement");
   EXPECT_EQ(run.sheet.TabNames(), std::vector<std::string>{"LsPgAdvanced"});
   auto* page = dynamic_cast<CLsPgAdvanced*>(run.sheet.PageOf(1352));
   ASSERT_NE(page, nullptr);
   EXPECT_EQ(page->AttachValue(), CLsPgAdvanced::kAttachScreen);
   EXPECT_EQ(page->Kind(), 6);
-  EXPECT_EQ(run.sheet.PageOf(1333), nullptr) << "the text page is not built";
+  EXPECT_EQ(run.sheet.PageOf(1320), nullptr) << "the shape page is not built";
 
   EXPECT_EQ(run.sheet.DoModal(run.runner), 0);
   EXPECT_EQ(run.runner.Caption(), "Fibonacci Retracement");

@@ -73,4 +73,38 @@ rm -f "$box"
 case_ "no box over the sheet: nothing to photograph is an error" 3 "DoModal returned 1
 orvhost: no window opened over the sheet" --doc "$(doc advanced.xml)" --script "ok" --box-screenshot "$(winepath -w "$box")"
 
+# The cycle finder: the period shown from the two points, typed (and stepped) and applied; the end
+# follows from it: on the Day page the date of the start's bar plus the period, on the Intra page
+# the bar itself with its date and time from the chart.
+xy() {
+  printf '<CXYCoord><XY_xPos>%s</XY_xPos><XY_yValue>%s</XY_yValue><XY_lDate>%s</XY_lDate><XY_lTime>%s</XY_lTime><XY_lSec>%s</XY_lSec><XY_lSnap>-1</XY_lSnap></CXYCoord>' "$@"
+}
+cycle_page() {
+  printf 'StatusEvent: <PropertySheet Name="LSPs"><PropertyPageList><PropertyPage Name="%s"><CCycleFinder><CLineStudy><PosLock>FALSE</PosLock><LS_CtrlPtList>%s%s</LS_CtrlPtList></CLineStudy></CCycleFinder></PropertyPage></PropertyPageList></PropertySheet>' "$1" "$2" "$3"
+}
+case_ "cycle finder Day page: period 10 shown, 25 typed and applied" 1 "$(cycle_page LsPgDayCycfnd "$(xy 379 104.250000 45301 0 0)" "$(xy 389 104.250000 45336 0 0)")
+DoModal returned 1" --doc "$(doc cycfnd-day.xml)" --script "expect 1470 10; text 1470 25; apply; ok"
+
+case_ "cycle finder Intra page: period 10 shown, 18 typed, two steps up, applied" 1 "$(cycle_page LsPgIntraCycfnd "$(xy 602 101.500000 45467 850 51017)" "$(xy 622 101.500000 45467 950 57017)")
+DoModal returned 1" --intraday --doc "$(doc cycfnd-intra.xml)" --script "expect 1517 10; text 1517 18; spin 1519 2; expect 1517 20; apply; ok"
+
+case_ "cycle finder: period 251 keeps the sheet open without a box; Cancel sends nothing" 0 "DoModal returned 0" \
+  --doc "$(doc cycfnd-day.xml)" --script "text 1470 251; ok; cancel"
+
+# The text page: the transparency shown as a percentage (opacity 204 is 20 %), 35 % typed (sent as
+# trunc(65 * 2.5501) = 165), the lock clicked, applied; the colour and the font go back as they came.
+text_page() {
+  printf '%s' 'StatusEvent: <PropertySheet Name="LSPs"><PropertyPageList><PropertyPage Name="LsPgText"><CLineStudy><PosLock>TRUE</PosLock></CLineStudy>'
+  printf '%s' '<CTrendtext><LSTxt_TextColor>RGB(0,0,128)</LSTxt_TextColor><LSTxt_Transparency>165</LSTxt_Transparency>'
+  printf '%s' '<CFontInfo Version="3" FaceName="Tahoma" PtSize="10" Height="100000" Width="0" Weight="400" Italic="0" Underline="0" PitchAndFamily="0"/></CTrendtext></PropertyPage></PropertyPageList></PropertySheet>'
+}
+case_ "text page: transparency typed, lock clicked, applied" 1 "$(text_page)
+DoModal returned 1" --no-chart-data --doc "$(doc text.xml)" --script "expect 1423 20; text 1423 35; click 227; apply; ok"
+
+# The font dialog is the platform's, over the sheet: cancelled (Esc), it changes nothing.
+case_ "text page: the font dialog cancelled sends nothing" 0 "DoModal returned 0" \
+  --doc "$(doc text.xml)" --script "click 1421; cancel" --box-screenshot "$(winepath -w "$box")"
+[ -s "$box" ] || { echo "FAIL the font dialog: no picture written"; failures=$((failures + 1)); }
+rm -f "$box"
+
 exit "$failures"
