@@ -57,6 +57,11 @@ class COrvDialog {
   virtual void OnFirstColor() {}
 
   // The dialog's window, and the operations on it; before SubclassControls().
+  // The whole dialog is painted again.
+  void Repaint() {
+    if (m_window) m_ops->InvalidateRect(m_window, nullptr, true);
+  }
+
   void AttachWindow(orv::WindowOps& ops, orv::WindowHandle window) {
     if (&ops != m_ops) {
       // Brushes belong to the operations that made them.
@@ -93,7 +98,7 @@ class COrvDialog {
     m_fieldBrush = orv::Brush(*m_ops, m_colors[4]);
     for (orv::WindowHandle target : m_themeTargets)
       m_ops->SendMessageA(target, WM_ORV_THEME, 0, reinterpret_cast<std::intptr_t>(&m_colors));
-    if (m_window) m_ops->InvalidateRect(m_window, nullptr, true);
+    Repaint();
     m_themeActive = true;
     return true;
   }

@@ -105,20 +105,17 @@ void CLinePgBase::ApplyFlagRule(const CLineProp& line) {
 bool CLinePgBase::Exchange(bool save, int controlId) {
   orv::Controls& c = Ctl();
   if (save) {
-    // Into the line whose values the controls hold; a page without lines has none to keep.
-    if (static_cast<std::size_t>(lastShown_) < lines_.size()) {
-      CLineProp& line = lines_[lastShown_];
-      line.Color = ButtonColor();
-      int style = line.Style;
-      int weight = line.Weight;
-      DDX_ComboData(IDC_LINE_PG_STYLE, &style, true);
-      DDX_ComboData(IDC_LINE_PG_WEIGHT, &weight, true);
-      line.Style = style;
-      line.Weight = weight;
-    }
+    // Into the line whose values the controls hold (the array grows to reach it).
+    CLineProp& line = Line(lastShown_);
+    line.Color = ButtonColor();
+    int style = line.Style;
+    int weight = line.Weight;
+    DDX_ComboData(IDC_LINE_PG_STYLE, &style, true);
+    DDX_ComboData(IDC_LINE_PG_WEIGHT, &weight, true);
+    line.Style = style;
+    line.Weight = weight;
   } else {
-    const CLineProp shown =
-        static_cast<std::size_t>(selected_) < lines_.size() ? lines_[selected_] : CLineProp{};
+    const CLineProp& shown = Line(selected_);
     ApplyFlagRule(shown);
     SetButtonColor(shown.Color);
     int style = shown.Style;
@@ -146,6 +143,7 @@ void CLinePgBase::OnSelectLine() {
     Exchange(false, -1);
     lastShown_ = selected_;
   }
+  Repaint();
 }
 
 void CLinePgBase::OnCommand(int id, int code) {
@@ -157,15 +155,15 @@ void CLinePgBase::OnCommand(int id, int code) {
       if (code != orv::kBnClicked) break;
       if (!updating_) SetModified(true);
       // The drop-down opens on the selected line's colour.
-      if (static_cast<std::size_t>(selected_) < lines_.size()) SetButtonColor(lines_[selected_].Color);
+      SetButtonColor(Line(selected_).Color);
       break;
     case IDC_LINE_PG_STYLE:
       if (code == orv::kCbnSelChange && !updating_) SetModified(true);
       break;
     case IDC_LINE_PG_WEIGHT:
       if (code != orv::kCbnSelChange) break;
-      if (static_cast<std::size_t>(selected_) < lines_.size()) {
-        CLineProp& line = lines_[selected_];
+      {
+        CLineProp& line = Line(selected_);
         int style = line.Style;
         int weight = line.Weight;
         DDX_ComboData(IDC_LINE_PG_STYLE, &style, true);

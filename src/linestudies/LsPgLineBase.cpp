@@ -4,10 +4,9 @@
 
 namespace {
 
-// Lines of a TVector: each item holds a LineProp, found by a deep search within the item.
-void ReadLineItem(XmlNode item, CLineProp& line) {
-  ReadLinePropElements(XmlFindNode(XmlFirstChild(item), "LineProp", true), line);
-}
+// Lines of a TVector: a LineProp found by a deep search from the item (the item itself, what it
+// holds, then the items after it).
+void ReadLineItem(XmlNode item, CLineProp& line) { ReadLinePropElements(XmlFindNode(item, "LineProp", true), line); }
 
 void WriteLineItem(XmlNode list, const char* name, const CLineProp& line) {
   WriteLinePropElements(XmlAddChild(XmlAddChild(list, name), "LineProp"), line);
@@ -84,7 +83,8 @@ orv::PageColorButtons* CLsPgLineTab::Buttons() const {
 
 std::uint32_t CLsPgLineTab::ButtonColor(int id) const {
   const int row = (id - kFirstRowId) / kRowStep;
-  if (id < kFirstRowId || (id - kFirstRowId) % kRowStep != kColorButton || static_cast<std::size_t>(row) >= heldColors_.size())
+  if (id < kFirstRowId || (id - kFirstRowId) % kRowStep != kColorButton ||
+      static_cast<std::size_t>(row) >= heldColors_.size())
     throw XmlComError(orv::kStatusInvalidArg, "line tab: no such colour button");
   if (orv::PageColorButtons* buttons = Buttons(); buttons && buttons->IsAttached(id)) return buttons->Color(id);
   return heldColors_[row];

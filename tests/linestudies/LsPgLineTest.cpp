@@ -116,7 +116,8 @@ TEST(LsLineTabs, EachTabSendsBackWhatItReadWithTheUsersChange) {
 
   const RoundTrip cases[] = {
       {"LsPgLineFibo", 1330,
-       "<CFibonacci LS_Style=\"3\">" + LinesXml(fib) + FibOptions(false, true, true) + RatiosXml(ratios) + "</CFibonacci>",
+       "<CFibonacci LS_Style=\"3\">" + LinesXml(fib) + FibOptions(false, true, true) + RatiosXml(ratios) +
+           "</CFibonacci>",
        // LS_Style isn't written back.
        "<CFibonacci>" + LinesXml(fibOut) + FibOptions(false, true, true) + RatiosXml(ratiosOut) + "</CFibonacci>",
        [](SheetRun&, FakeControls& c) {
@@ -192,9 +193,10 @@ TEST(LsLineTabs, RowsFollowTheLinesAndTheListGrowsToTheRows) {
       {"Gann with one line", "LsPgLineGann", 1331, "<CGann>" + LinesXml(Named(1)) + "</CGann>", 9, rows(1, 9), 1},
       {"Gann with two lines", "LsPgLineGann", 1331, "<CGann>" + LinesXml(Named(2)) + "</CGann>", 9, rows(9, 9), 9},
       {"Gann with twelve lines", "LsPgLineGann", 1331, "<CGann>" + LinesXml(Named(12)) + "</CGann>", 9, rows(9, 9), 12},
-      {"Fibonacci of two anchors, four lines", "LsPgLineFibo", 1330, "<CFibonacci>" + LinesXml(Named(4)) + "</CFibonacci>",
-       11, rows(10, 11), 10},
-      {"Fibonacci of three anchors, no lines", "LsPgLineFibo", 1330, "<CFibonacci LS_Style=\"3\"/>", 11, rows(11, 11), 11},
+      {"Fibonacci of two anchors, four lines", "LsPgLineFibo", 1330,
+       "<CFibonacci>" + LinesXml(Named(4)) + "</CFibonacci>", 11, rows(10, 11), 10},
+      {"Fibonacci of three anchors, no lines", "LsPgLineFibo", 1330, "<CFibonacci LS_Style=\"3\"/>", 11, rows(11, 11),
+       11},
       // Ten rows are used, but a list of eleven hides none: the eleventh row shows and isn't edited.
       {"Fibonacci of two anchors, eleven lines", "LsPgLineFibo", 1330,
        "<CFibonacci LS_Style=\"2\">" + LinesXml(Named(11)) + "</CFibonacci>", 11, rows(11, 11), 11},
@@ -226,7 +228,8 @@ TEST(LsLineTabs, ASingleGannLineShowsColourStyleAndWeightOnlyAndKeepsItsVisibili
     FakeControls& c = r.Tab(0);
     for (int id : {IDC_LS_GANN_SHOW_HEADING, Row(0, CLsPgLineTab::kNameBox), Row(0, CLsPgLineTab::kVisibleBox)})
       EXPECT_FALSE(c.IsDlgItemVisible(id)) << id;
-    for (int id : {Row(0, CLsPgLineTab::kColorButton), Row(0, CLsPgLineTab::kStyleBox), Row(0, CLsPgLineTab::kWeightBox)})
+    for (int id :
+         {Row(0, CLsPgLineTab::kColorButton), Row(0, CLsPgLineTab::kStyleBox), Row(0, CLsPgLineTab::kWeightBox)})
       EXPECT_TRUE(c.IsDlgItemVisible(id)) << id;
     EXPECT_EQ(c.GetFocus(), Row(0, CLsPgLineTab::kColorButton));
     c.SelectComboItem(Row(0, CLsPgLineTab::kStyleBox), 1);
@@ -241,7 +244,8 @@ TEST(LsLineTabs, TheFibonacciBoxesBelowTheRowsAreOfferedByTheKindOfStudy) {
     int style;
     bool labels, extend, priceBox;
   };
-  const Case cases[] = {{0, true, false, false}, {1, false, false, true}, {2, true, true, true}, {3, true, false, true}};
+  const Case cases[] = {
+      {0, true, false, false}, {1, false, false, true}, {2, true, true, true}, {3, true, false, true}};
   for (const Case& k : cases) {
     SCOPED_TRACE(k.style);
     SheetRun run;
@@ -298,7 +302,8 @@ TEST(LsLineTabs, AThickLineIsSolidOnLoadAndWhenTheUserMakesItThick) {
   lines[0].style = 0;
   lines[1] = {"Thin dashed", true, 0, 2, 0};
   EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
-                              "LsPgLineParallel", "<CParallel>" + LinesXml(lines) + "<ShowPriceBox>TRUE</ShowPriceBox></CParallel>")});
+                              "LsPgLineParallel",
+                              "<CParallel>" + LinesXml(lines) + "<ShowPriceBox>TRUE</ShowPriceBox></CParallel>")});
 }
 
 // --- the ratio boxes ---
@@ -311,8 +316,7 @@ TEST(LsLineTabs, ARatioThatIsNoNumberKeepsTheUserOnTheTab) {
     run.Run(SheetXml("LsPgLinePfork",
                      "<CPitchfork><Multiplier><TVector><Item_0>0.5</Item_0><Item_1>0.1234567890123456789</Item_1>"
                      "</TVector></Multiplier></CPitchfork>"),
-            nullptr,
-            [&](HeadlessSheetRunner& r) {
+            nullptr, [&](HeadlessSheetRunner& r) {
               FakeControls& c = r.Tab(0);
               EXPECT_EQ(c.GetDlgItemTextA(Row(0, CLsPgLineTab::kRatioBox), 32), "0.5");
               EXPECT_EQ(c.GetDlgItemTextA(box, 32), "0.123456789012346");
@@ -327,9 +331,9 @@ TEST(LsLineTabs, ARatioThatIsNoNumberKeepsTheUserOnTheTab) {
               c.TypeText(box, "1.25");
               EXPECT_TRUE(r.Sheet().PressOk());
             });
-    EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
-                                "LsPgLinePfork", "<CPitchfork>" + LinesXml(std::vector<Ln>(4)) +
-                                                     RatiosXml({0.5, 1.25, 0, 0}) + "</CPitchfork>")});
+    EXPECT_EQ(run.Events(),
+              std::vector<std::string>{EventXml("LsPgLinePfork", "<CPitchfork>" + LinesXml(std::vector<Ln>(4)) +
+                                                                     RatiosXml({0.5, 1.25, 0, 0}) + "</CPitchfork>")});
   }
 }
 
@@ -351,8 +355,20 @@ TEST(LsLineTabs, ATabWithoutItsWrapperReadsNothingAndTheHostsOrderOfElementsDoes
   std::vector<Ln> lines(4);
   lines[0].color = 0x030201;
   lines[0].visible = false;
-  EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
-                              "LsPgLinePfork", "<CPitchfork>" + LinesXml(lines) + RatiosXml({2, 0.5, 0, 0}) + "</CPitchfork>")});
+  EXPECT_EQ(run.Events(),
+            std::vector<std::string>{EventXml(
+                "LsPgLinePfork", "<CPitchfork>" + LinesXml(lines) + RatiosXml({2, 0.5, 0, 0}) + "</CPitchfork>")});
+
+  // Items that are the LineProps themselves are read too; an item without one takes the next's.
+  CLsPgLineGann bare;
+  ASSERT_TRUE(bare.Load(lstest::PageNode(
+      SheetXml("LsPgLineGann",
+               "<CGann><TVLineProps><TVector><LineProp><LineColor>RGB(4,5,6)</LineColor></LineProp><Item_1/>"
+               "<LineProp><LineWeight>2</LineWeight></LineProp></TVector></TVLineProps></CGann>"))));
+  ASSERT_EQ(bare.Lines().size(), 3u);
+  EXPECT_EQ(bare.Lines()[0].Color, 0x060504u);
+  EXPECT_EQ(bare.Lines()[1].Weight, 2);
+  EXPECT_EQ(bare.Lines()[2].Weight, 2);
 
   // A wrapper that isn't the PropertyPage's own child isn't the tab's.
   CLsPgLinePfork page;
@@ -365,18 +381,35 @@ TEST(LsLineTabs, ATabWithoutItsWrapperReadsNothingAndTheHostsOrderOfElementsDoes
 
 TEST(LsGraphObjLinePage, ALineWithoutNameIsNotListedButComesBackUnchanged) {
   SheetRun run;
-  run.Run(SheetXml("GraphObjLinePg", "<LineList><Anything Color=\"42\" Weight=\"2\" Style=\"3\" Flags=\"8\"/></LineList>"),
-          nullptr, [&](HeadlessSheetRunner& r) {
-            FakeControls& c = r.Tab(0);
-            EXPECT_EQ(c.ListGetCount(IDC_LINE_PG_LIST), 0);
-            EXPECT_FALSE(c.IsDlgItemVisible(IDC_LINE_PG_SHOW_PRICE)) << "no UseShowPrice";
-            EXPECT_FALSE(c.IsDlgItemVisible(IDC_LINE_PG_SHOW_GRID)) << "the sheet's page is kind 0";
-            c.Click(IDC_LINE_PG_COLOR);
-            EXPECT_TRUE(r.Sheet().PressOk());
-          });
+  run.Run(
+      SheetXml("GraphObjLinePg", "<LineList><Anything Color=\"42\" Weight=\"2\" Style=\"3\" Flags=\"8\"/></LineList>"),
+      nullptr, [&](HeadlessSheetRunner& r) {
+        FakeControls& c = r.Tab(0);
+        EXPECT_EQ(c.ListGetCount(IDC_LINE_PG_LIST), 0);
+        EXPECT_FALSE(c.IsDlgItemVisible(IDC_LINE_PG_SHOW_PRICE)) << "no UseShowPrice";
+        EXPECT_FALSE(c.IsDlgItemVisible(IDC_LINE_PG_SHOW_GRID)) << "the sheet's page is kind 0";
+        c.Click(IDC_LINE_PG_COLOR);
+        EXPECT_TRUE(r.Sheet().PressOk());
+      });
+  EXPECT_EQ(run.Events(),
+            std::vector<std::string>{
+                EventXml("GraphObjLinePg",
+                         "<LineList><Line Name=\"\" Color=\"42\" Weight=\"2\" Style=\"3\" Flags=\"8\"/></LineList>")});
+}
+
+TEST(LsGraphObjLinePage, WithoutLinesTheLineShownIsAddedAndSentWhenChanged) {
+  SheetRun run;
+  run.Run(SheetXml("GraphObjLinePg", "<UseShowPrice ShowPrice=\"FALSE\"/>"), nullptr, [&](HeadlessSheetRunner& r) {
+    FakeControls& c = r.Tab(0);
+    EXPECT_EQ(c.ListGetCount(IDC_LINE_PG_LIST), 0);
+    c.SelectComboItem(IDC_LINE_PG_WEIGHT, 2);
+    c.Click(IDC_LINE_PG_SHOW_PRICE);
+    EXPECT_TRUE(r.Sheet().PressOk());
+  });
   EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
                               "GraphObjLinePg",
-                              "<LineList><Line Name=\"\" Color=\"42\" Weight=\"2\" Style=\"3\" Flags=\"8\"/></LineList>")});
+                              "<LineList><Line Name=\"\" Color=\"0\" Weight=\"3\" Style=\"0\" Flags=\"0\"/></LineList>"
+                              "<UseShowPrice ShowPrice=\"TRUE\"/>")});
 }
 
 TEST(LsGraphObjLinePage, TheLinesFlagsTakeItsStyleAndWeightBoxesAway) {
@@ -429,10 +462,11 @@ TEST(LsGraphObjLinePage, ChoosingAnotherLineKeepsTheEditsOfTheOneShown) {
 
 TEST(LsLineTabs, ATabNamedTwiceShowsInEachWindowWhatWasEnteredInTheOther) {
   std::vector<Ln> lines = Named(3);
-  const std::string page = "<PropertyPage Name=\"LsPgLineParallel\"><CParallel>" + LinesXml(lines) + "</CParallel></PropertyPage>";
+  const std::string page =
+      "<PropertyPage Name=\"LsPgLineParallel\"><CParallel>" + LinesXml(lines) + "</CParallel></PropertyPage>";
   SheetRun run;
-  run.Run("<PropertySheet Name=\"LSPs\"><PropertyPageList>" + page + page + "</PropertyPageList></PropertySheet>", nullptr,
-          [&](HeadlessSheetRunner& r) {
+  run.Run("<PropertySheet Name=\"LSPs\"><PropertyPageList>" + page + page + "</PropertyPageList></PropertySheet>",
+          nullptr, [&](HeadlessSheetRunner& r) {
             r.Tab(0).SelectComboItem(Row(2, CLsPgLineTab::kStyleBox), 3);
             PickColor(run, 1396, r.Tab(0), Row(1, CLsPgLineTab::kColorButton), 0x00FFFF);
             ASSERT_TRUE(r.Sheet().SelectPage(1));
@@ -448,7 +482,8 @@ TEST(LsLineTabs, ATabNamedTwiceShowsInEachWindowWhatWasEnteredInTheOther) {
   lines[1].color = 0x00FFFF;
   lines[0].visible = false;
   EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
-                              "LsPgLineParallel", "<CParallel>" + LinesXml(lines) + "<ShowPriceBox>TRUE</ShowPriceBox></CParallel>")});
+                              "LsPgLineParallel",
+                              "<CParallel>" + LinesXml(lines) + "<ShowPriceBox>TRUE</ShowPriceBox></CParallel>")});
 }
 
 // --- the platform's colour buttons ---
@@ -464,31 +499,33 @@ TEST(LsLineColorButtons, EachRowsButtonShowsItsLineAndWhatTheUserPicksIsSent) {
               EXPECT_FALSE(button.offerNoColor);
               shown[id] = button.color;
             }
-            EXPECT_EQ(shown, (std::map<int, std::uint32_t>{{2402, lines[0].color}, {2412, lines[1].color},
-                                                           {2422, lines[2].color}}));
+            EXPECT_EQ(shown, (std::map<int, std::uint32_t>{
+                                 {2402, lines[0].color}, {2412, lines[1].color}, {2422, lines[2].color}}));
             buttons.Pick(r.Tab(0), 2422, 0x00FF00);
             EXPECT_TRUE(r.Sheet().PressOk());
           });
   lines[2].color = 0x00FF00;
   EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
-                              "LsPgLineParallel", "<CParallel>" + LinesXml(lines) + "<ShowPriceBox>TRUE</ShowPriceBox></CParallel>")});
+                              "LsPgLineParallel",
+                              "<CParallel>" + LinesXml(lines) + "<ShowPriceBox>TRUE</ShowPriceBox></CParallel>")});
 }
 
 TEST(LsLineColorButtons, TheLinePagesButtonOpensOnTheChosenLineAndKeepsThePick) {
   orv::FakePageColorButtons buttons;
   SheetRun run;
-  run.Run(SheetXml("GraphObjLinePg", "<LineList><Line Name=\"A\" Color=\"5\"/><Line Name=\"B\" Color=\"6\"/></LineList>"),
-          nullptr, [&](HeadlessSheetRunner& r) {
-            FakeControls& c = r.Tab(0);
-            EXPECT_EQ(buttons.Color(IDC_LINE_PG_COLOR), 5u);
-            c.SelectListItem(IDC_LINE_PG_LIST, 1);
-            EXPECT_EQ(buttons.Color(IDC_LINE_PG_COLOR), 6u);
-            buttons.Hold(IDC_LINE_PG_COLOR, 99);  // left from an earlier drop-down
-            c.Click(IDC_LINE_PG_COLOR);
-            EXPECT_EQ(buttons.Color(IDC_LINE_PG_COLOR), 6u) << "the drop-down opens on the line's colour";
-            buttons.Hold(IDC_LINE_PG_COLOR, 7);  // the user's pick
-            EXPECT_TRUE(r.Sheet().PressOk());
-          });
+  run.Run(
+      SheetXml("GraphObjLinePg", "<LineList><Line Name=\"A\" Color=\"5\"/><Line Name=\"B\" Color=\"6\"/></LineList>"),
+      nullptr, [&](HeadlessSheetRunner& r) {
+        FakeControls& c = r.Tab(0);
+        EXPECT_EQ(buttons.Color(IDC_LINE_PG_COLOR), 5u);
+        c.SelectListItem(IDC_LINE_PG_LIST, 1);
+        EXPECT_EQ(buttons.Color(IDC_LINE_PG_COLOR), 6u);
+        buttons.Hold(IDC_LINE_PG_COLOR, 99);  // left from an earlier drop-down
+        c.Click(IDC_LINE_PG_COLOR);
+        EXPECT_EQ(buttons.Color(IDC_LINE_PG_COLOR), 6u) << "the drop-down opens on the line's colour";
+        buttons.Hold(IDC_LINE_PG_COLOR, 7);  // the user's pick
+        EXPECT_TRUE(r.Sheet().PressOk());
+      });
   EXPECT_EQ(run.Events(), std::vector<std::string>{EventXml(
                               "GraphObjLinePg",
                               "<LineList><Line Name=\"A\" Color=\"5\" Weight=\"1\" Style=\"0\" Flags=\"0\"/>"

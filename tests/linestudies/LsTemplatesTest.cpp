@@ -18,8 +18,8 @@ using orv::TemplateControl;
 TEST(LsTemplates, EveryPageTheTestsDriveHasATemplate) {
   std::vector<int> ids(std::begin(lstest::kTrendlineDialogs), std::end(lstest::kTrendlineDialogs));
   ids.push_back(IDD_LS_PG_ADVANCED);
-  for (int id : {IDD_LS_PG_LINE_FIBO, IDD_LS_PG_LINE_GANN, IDD_LS_PG_LINE_PFORK, IDD_LS_PG_LINE_PARALLEL,
-                 IDD_GRAPH_OBJ_LINE_PG})
+  for (int id :
+       {IDD_LS_PG_LINE_FIBO, IDD_LS_PG_LINE_GANN, IDD_LS_PG_LINE_PFORK, IDD_LS_PG_LINE_PARALLEL, IDD_GRAPH_OBJ_LINE_PG})
     ids.push_back(id);
   for (int id : ids) {
     SCOPED_TRACE(id);
