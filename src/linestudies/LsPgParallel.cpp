@@ -13,7 +13,7 @@ std::optional<LsParallelMove> LsKeepParallel(int edited, const std::array<double
                                              const std::array<bool, kLsParallelVertices>& snapped) {
   const int partner = LsParallelPartner(edited);
   if (partner < 0) return std::nullopt;
-  const int across = edited ^ 1;                       // the edited line's vertex on the other side
+  const int across = edited ^ 1;                        // the edited line's vertex on the other side
   const int acrossPartner = LsParallelPartner(across);  // the other side's vertex on the opposite line
   auto fixed = [&](int vertex) { return vertex == edited || snapped[static_cast<std::size_t>(vertex)]; };
   // Sides by their top vertex: 0 left, 1 right; the bottom is the top + 2.

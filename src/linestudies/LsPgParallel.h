@@ -94,7 +94,8 @@ class CLsPgParallel : public CLsPgAnchors<Base> {
       values[i] = this->Point(i).yValue;
       snapped[i] = this->Point(i).lSnap != kSnapNone;
     }
-    if (const auto move = LsKeepParallel(this->currentVertex_, values, snapped)) this->Point(move->vertex).yValue = move->value;
+    if (const auto move = LsKeepParallel(this->currentVertex_, values, snapped))
+      this->Point(move->vertex).yValue = move->value;
   }
 
   std::int32_t ExtendLeft() const { return extendLeft_; }
