@@ -4,5 +4,7 @@ orv_add_fuzzer(fuzz_lspages_trendline ${CMAKE_CURRENT_LIST_DIR}/LsPagesFuzz.cpp 
 # The line tabs and the graph object line page.
 
 # The position pages of the studies with several anchors.
+# The same driver over its own seeds: Fibonacci, Gann, pitchfork and parallel channel pages.
+orv_add_fuzzer(fuzz_lspages_anchors ${CMAKE_CURRENT_LIST_DIR}/LsPagesFuzz.cpp orv_linestudies_templates)
 
 # The cycle finder and the text page.
