@@ -10,6 +10,7 @@
 //   height (LsKeepParallel below).
 // ExtendLeft and ExtendRight, below CParallel, are the two extend boxes.
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -73,6 +74,8 @@ class CLsPgParallel : public CLsPgAnchors<Base> {
   void OnValuesSaved() override {
     const int partner = LsParallelPartner(this->currentVertex_);
     if (partner < 0) return;
+    // Grow the list to both first: a point grown afterwards would move the other.
+    this->Point(std::max(partner, this->currentVertex_));
     const CXYCoord& point = this->Point(this->currentVertex_);
     CXYCoord& other = this->Point(partner);
     other.lDate = point.lDate;

@@ -2,8 +2,8 @@
 // position pages of the trendline family and of the studies with several anchors, the Advanced
 // page), gets no chart, a daily or an intraday one (by the text's length), and a user visits
 // every tab, edits what is reachable (value, vertices, snap, spin, extend boxes, lock, the
-// Advanced page's choice) and presses OK, then Cancel if a page refused. Refusals are XmlComError; nothing else may escape,
-// and nothing may crash, hang or leak. Every event must be a document the layer reads back.
+// Advanced page's choice) and presses OK, then Cancel if a page refused. Refusals are XmlComError; nothing else may
+// escape, and nothing may crash, hang or leak. Every event must be a document the layer reads back.
 
 #include <cstddef>
 #include <cstdint>
