@@ -9,7 +9,7 @@
 #include "chartpages/ChartDrawProps.h"
 #include "chartpages/ChartPage.h"
 #include "chartpages/ChartPagesRes.h"
-#include "chartpages/PageColorButtons.h"
+#include "dlgkit/PageColorButtons.h"
 #include "dlgkit/DataExchange.h"
 #include "xml/Xml.h"
 

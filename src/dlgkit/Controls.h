@@ -19,6 +19,8 @@
 
 namespace orv {
 
+struct LogFont;  // dlgkit/FontInfo.h
+
 // Button states of IsDlgButtonChecked / CheckDlgButton.
 inline constexpr int kBstUnchecked = 0;
 inline constexpr int kBstChecked = 1;
@@ -121,6 +123,10 @@ class Controls {
   virtual int OrvMessageBox(std::string_view text, std::string_view caption, unsigned flags) = 0;
   // The help service: book (e.g. "CHARTX") and topic (the dialog id). Without one, nothing.
   virtual void ShowHelp(std::string_view book, int topic) = 0;
+  // The platform's font dialog (ChooseFontA: screen fonts, effects, started from `font`, its
+  // colour field from `color`), owned by the dialog. On OK the choice is in `font` and `color`
+  // and the answer is true; on Cancel, or when the dialog can't be shown, both stay as they were.
+  virtual bool ChooseFontA(LogFont& font, std::uint32_t& color) = 0;
 
   // --- the sheet around the page ---
   virtual void SheetChanged() = 0;    // PSM_CHANGED: the sheet's Apply button comes on

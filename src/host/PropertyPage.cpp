@@ -8,7 +8,7 @@
 #include "com/WideText.h"
 #include "host/ActivationContext.h"
 #include "host/ComError.h"
-#include "host/PageColorButtonsWin32.h"
+#include "dlgkit/win32/PageColorButtonsWin32.h"
 #include "xml/msxml/XmlMsxml.h"
 
 namespace orv::host {

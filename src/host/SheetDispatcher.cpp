@@ -7,6 +7,7 @@
 #include "dlgkit/SettingsStore.h"
 #include "dlgkit/SheetRunner.h"
 #include "dlgkit/win32/ChartDataWin32.h"
+#include "dlgkit/win32/PageColorButtonsWin32.h"
 #include "host/ActivationContext.h"
 #include "host/ChartPages.h"
 #include "linestudies/LsPs.h"
@@ -53,6 +54,8 @@ long SheetDispatcher::Run(CChartPages* owner, XmlNode doc, IUnknown* chartData, 
   ScopedUiActivation activation;
   switch (kind) {
     case SheetKind::LineStudies: {
+      // The pages' colour buttons are the platform's.
+      orv::SetPageColorButtonsMaker(&orv::MakeWin32PageColorButtons);
       CLsPs<CChartPages> lineStudies(owner);
       lineStudies.InitFromXml(sheet);
       if (withChartData) lineStudies.SetChartData(orv::WrapChartData(chartData));

@@ -18,7 +18,7 @@ endif()
 # COM methods' error reporting (ComError) that every object shares. A library of its own, so that
 # a test program links it with a page of its own and nothing else.
 add_library(orv_host_pageframe STATIC ${CMAKE_CURRENT_LIST_DIR}/PropertyPage.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/PageColorButtonsWin32.cpp ${CMAKE_CURRENT_LIST_DIR}/ComError.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/ComError.cpp)
 target_include_directories(orv_host_pageframe PUBLIC ${PROJECT_SOURCE_DIR}/src)
 target_link_libraries(orv_host_pageframe PUBLIC orv_idl orv_xml orv_dlgkit orv_chartpages orv_host_module ole32
   oleaut32 uuid user32)

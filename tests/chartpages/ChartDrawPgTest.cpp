@@ -18,6 +18,7 @@
 #include "chartpages/ChartDrawPg.h"
 #include "chartpages/ChartPage.h"
 #include "dlgkit/fake/ControlsFake.h"
+#include "dlgkit/fake/FakePageColorButtons.h"
 #include "dlgkit/fake/FakeSheetOwner.h"
 #include "dlgkit/fake/TemplateLayout.h"
 #include "xml/Xml.h"
@@ -442,59 +443,30 @@ TEST(ChartDrawPgValidators, EdgesOfTheRangesPass) {
 
 // --- the platform's colour buttons ---
 
-namespace buttons {
-
-struct Held {
-  std::uint32_t color;
-  bool offerNoColor;
-};
-std::map<int, Held>* g_attached = nullptr;  // the test's buttons, while a test makes them
-
-class RecordingButtons final : public orv::PageColorButtons {
- public:
-  void Attach(orv::WindowHandle, int id, bool offerNoColor, std::uint32_t color) override {
-    (*g_attached)[id] = {color, offerNoColor};
-  }
-  bool IsAttached(int id) const override { return g_attached->count(id) != 0; }
-  std::uint32_t Color(int id) const override { return g_attached->at(id).color; }
-  void SetColor(int id, std::uint32_t color) override { g_attached->at(id).color = color; }
-};
-
-std::unique_ptr<orv::PageColorButtons> Make() { return std::make_unique<RecordingButtons>(); }
-
-}  // namespace buttons
-
 TEST(ChartDrawPgButtons, AttachesEveryButtonAndSendsWhatTheyHold) {
-  std::map<int, buttons::Held> attached;
-  buttons::g_attached = &attached;
-  const orv::PageColorButtonsMaker previous = orv::SetPageColorButtonsMaker(&buttons::Make);
-  {
-    DrawPage p(TypeDoc(1, "<BarUpColor>11</BarUpColor><AnalyticsInfo><ColorDoji>22</ColorDoji></AnalyticsInfo>",
-                       "<LineProps><LP Name=\"Line\" Color=\"33\"/></LineProps>"));
-    EXPECT_EQ(attached.size(), 7u);
-    EXPECT_TRUE(attached.at(IDC_CD_COLOR1).offerNoColor) << "a line's colour may be none";
-    EXPECT_FALSE(attached.at(IDC_CD_COLOR2).offerNoColor);
-    EXPECT_EQ(attached.at(IDC_CD_COLOR1).color, 33u);
-    EXPECT_EQ(attached.at(IDC_CD_BAR_UP_COLOR).color, 11u);
-    EXPECT_EQ(attached.at(IDC_CD_DOJI_COLOR).color, 22u);
-    EXPECT_EQ(attached.at(IDC_CD_BCL_COLOR).color, 0x00A5FFu) << "an AnalyticsInfo was there: its defaults";
-    EXPECT_EQ(attached.at(IDC_CD_BAR_DN_COLOR).color, 0xFFFFFFu) << "no BarDnColor: the button's white";
-    attached.at(IDC_CD_COLOR1).color = 44;  // the user's pick in the drop-down
-    attached.at(IDC_CD_GAP_COLOR).color = 55;
-    p.controls.Click(IDC_CD_COLOR1);
-    p.frame.Apply();
-    ASSERT_EQ(p.connection.sent.size(), 1u);
-    EXPECT_NE(p.connection.sent[0].find("<LP Name=\"Line\" Color=\"44\""), std::string::npos);
-    EXPECT_NE(p.connection.sent[0].find("<ColorCOGap>55</ColorCOGap>"), std::string::npos);
-    EXPECT_NE(p.connection.sent[0].find("<BarUpColor>11</BarUpColor>"), std::string::npos);
-    // The window goes: the page keeps the buttons' colours.
-    attached.at(IDC_CD_BCL_COLOR).color = 66;
-    p.frame.WindowClosing();
-    attached.clear();
-    EXPECT_EQ(p.page.ButtonColor(IDC_CD_BCL_COLOR), 66u);
-  }
-  orv::SetPageColorButtonsMaker(previous);
-  buttons::g_attached = nullptr;
+  orv::FakePageColorButtons buttons;
+  DrawPage p(TypeDoc(1, "<BarUpColor>11</BarUpColor><AnalyticsInfo><ColorDoji>22</ColorDoji></AnalyticsInfo>",
+                     "<LineProps><LP Name=\"Line\" Color=\"33\"/></LineProps>"));
+  const auto& attached = buttons.Attached();
+  EXPECT_EQ(attached.size(), 7u);
+  EXPECT_TRUE(attached.at(IDC_CD_COLOR1).offerNoColor) << "a line's colour may be none";
+  EXPECT_FALSE(attached.at(IDC_CD_COLOR2).offerNoColor);
+  EXPECT_EQ(attached.at(IDC_CD_COLOR1).color, 33u);
+  EXPECT_EQ(attached.at(IDC_CD_BAR_UP_COLOR).color, 11u);
+  EXPECT_EQ(attached.at(IDC_CD_DOJI_COLOR).color, 22u);
+  EXPECT_EQ(attached.at(IDC_CD_BCL_COLOR).color, 0x00A5FFu) << "an AnalyticsInfo was there: its defaults";
+  EXPECT_EQ(attached.at(IDC_CD_BAR_DN_COLOR).color, 0xFFFFFFu) << "no BarDnColor: the button's white";
+  buttons.Pick(p.controls, IDC_CD_COLOR1, 44);
+  buttons.Hold(IDC_CD_GAP_COLOR, 55);
+  p.frame.Apply();
+  ASSERT_EQ(p.connection.sent.size(), 1u);
+  EXPECT_NE(p.connection.sent[0].find("<LP Name=\"Line\" Color=\"44\""), std::string::npos);
+  EXPECT_NE(p.connection.sent[0].find("<ColorCOGap>55</ColorCOGap>"), std::string::npos);
+  EXPECT_NE(p.connection.sent[0].find("<BarUpColor>11</BarUpColor>"), std::string::npos);
+  // The window goes: the page keeps the buttons' colours.
+  buttons.Hold(IDC_CD_BCL_COLOR, 66);
+  p.frame.WindowClosing();
+  EXPECT_EQ(p.page.ButtonColor(IDC_CD_BCL_COLOR), 66u);
 }
 
 }  // namespace

@@ -554,6 +554,15 @@ int FakeControls::OrvMessageBox(std::string_view text, std::string_view caption,
   return answer;
 }
 
+bool FakeControls::ChooseFontA(LogFont& font, std::uint32_t& color) {
+  fontDialogs_.push_back({font, color});
+  if (fontAnswers_.empty()) return false;
+  font = fontAnswers_.front().font;
+  color = fontAnswers_.front().color;
+  fontAnswers_.pop_front();
+  return true;
+}
+
 void FakeControls::SheetChanged() {
   sheetChanged_ = true;
   ++sheetChangedCalls_;

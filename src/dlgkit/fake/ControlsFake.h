@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "dlgkit/Controls.h"
+#include "dlgkit/FontInfo.h"
 
 namespace orv {
 
@@ -84,6 +85,12 @@ struct FakeMessageBox {
   unsigned flags = 0;
 };
 
+// A font dialog's font and colour: what it started from, or the user's choice.
+struct FakeFontDialog {
+  LogFont font;
+  std::uint32_t color = 0;
+};
+
 class FakeControls final : public Controls {
  public:
   FakeControls() = default;
@@ -135,6 +142,10 @@ class FakeControls final : public Controls {
   // Who hears PSM_SETWIZBUTTONS (the wizard: its buttons are the sheet's, not a page's).
   void SetWizardButtonsHandler(std::function<void(unsigned flags)> handler) { wizardHandler_ = std::move(handler); }
   const std::vector<std::pair<std::string, int>>& HelpRequests() const { return helpRequests_; }
+  // The font dialog: each request (the font and colour it started from) is recorded; it answers
+  // with the next queued choice (OK), or as Cancel when none is queued.
+  void AnswerNextFontDialog(const LogFont& font, std::uint32_t color) { fontAnswers_.push_back({font, color}); }
+  const std::vector<FakeFontDialog>& FontDialogs() const { return fontDialogs_; }
 
   // --- Controls ---
   std::string GetDlgItemTextA(int id, std::size_t bufferSize) override;
@@ -189,6 +200,7 @@ class FakeControls final : public Controls {
   void MessageBeep(unsigned type) override { beeps_.push_back(type); }
   int OrvMessageBox(std::string_view text, std::string_view caption, unsigned flags) override;
   void ShowHelp(std::string_view book, int topic) override { helpRequests_.emplace_back(std::string(book), topic); }
+  bool ChooseFontA(LogFont& font, std::uint32_t& color) override;
   void SheetChanged() override;
   void SheetUnchanged() override;
   std::intptr_t SendPageApply(int dialogId) override;
@@ -218,6 +230,8 @@ class FakeControls final : public Controls {
   std::vector<int> focusHistory_;
   std::vector<FakeMessageBox> messageBoxes_;
   std::deque<int> answers_;
+  std::deque<FakeFontDialog> fontAnswers_;
+  std::vector<FakeFontDialog> fontDialogs_;
   bool sheetChanged_ = false;
   int sheetChangedCalls_ = 0;
   int sheetUnchangedCalls_ = 0;

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 #include <commctrl.h>
+#include <commdlg.h>
 
 #include <climits>
 #include <string>
@@ -9,6 +10,7 @@
 
 #include "dlgkit/HostServices.h"
 #include "dlgkit/MessageBox.h"
+#include "dlgkit/win32/FontOpsWin32.h"
 
 namespace orv {
 
@@ -411,6 +413,20 @@ int Win32Controls::OrvMessageBox(std::string_view text, std::string_view caption
 }
 
 void Win32Controls::ShowHelp(std::string_view book, int topic) { orv::ShowHelp(std::string(book), topic, 0); }
+
+bool Win32Controls::ChooseFontA(LogFont& font, std::uint32_t& color) {
+  LOGFONTA chosen = ToLOGFONTA(font);
+  CHOOSEFONTA box = {};
+  box.lStructSize = sizeof(box);
+  box.hwndOwner = Dlg(dialog_);
+  box.lpLogFont = &chosen;
+  box.Flags = CF_SCREENFONTS | CF_EFFECTS | CF_INITTOLOGFONTSTRUCT;
+  box.rgbColors = color;
+  if (!::ChooseFontA(&box)) return false;
+  font = FromLOGFONTA(chosen);
+  color = box.rgbColors;
+  return true;
+}
 
 // --- the sheet ---
 

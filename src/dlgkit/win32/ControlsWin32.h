@@ -64,6 +64,7 @@ class Win32Controls final : public Controls {
   void MessageBeep(unsigned type) override;
   int OrvMessageBox(std::string_view text, std::string_view caption, unsigned flags) override;
   void ShowHelp(std::string_view book, int topic) override;
+  bool ChooseFontA(LogFont& font, std::uint32_t& color) override;
   void SheetChanged() override;
   void SheetUnchanged() override;
   std::intptr_t SendPageApply(int dialogId) override;

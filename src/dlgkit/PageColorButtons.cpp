@@ -1,4 +1,4 @@
-#include "chartpages/PageColorButtons.h"
+#include "dlgkit/PageColorButtons.h"
 
 namespace orv {
 

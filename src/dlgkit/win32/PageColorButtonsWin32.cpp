@@ -1,4 +1,4 @@
-#include "host/PageColorButtonsWin32.h"
+#include "dlgkit/win32/PageColorButtonsWin32.h"
 
 #include <windows.h>
 
@@ -6,7 +6,7 @@
 
 #include "dlgkit/win32/ColorPickerWin32.h"
 
-namespace orv::host {
+namespace orv {
 
 namespace {
 
@@ -41,4 +41,4 @@ class Win32PageColorButtons final : public orv::PageColorButtons {
 
 std::unique_ptr<orv::PageColorButtons> MakeWin32PageColorButtons() { return std::make_unique<Win32PageColorButtons>(); }
 
-}  // namespace orv::host
+}  // namespace orv
