@@ -65,7 +65,7 @@ class CLsPgFibo : public CLsPgAnchors<Base> {
   void ChooseLabelFont() {
     orv::LogFont font = font_;
     std::uint32_t color = lineColor_;
-    if (!false) return;  // PENDING_FONT_DIALOG
+    if (!this->Ctl().ChooseFontA(font, color)) return;
     font_ = font;
     lineColor_ = color;
     if (!this->updating_) this->SetModified(true);

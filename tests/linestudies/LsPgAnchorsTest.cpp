@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdio>
 #include <functional>
 #include <optional>
 #include <string>
@@ -275,6 +276,65 @@ TEST(LsFiboPage, TheFontRecordBecomesThePagesLogFont) {
   EXPECT_EQ(page->Font().lfWeight, 700);
   EXPECT_EQ(page->Font().lfItalic, 1);
   EXPECT_EQ(page->Font().lfUnderline, 1);
+}
+
+TEST(LsFiboPage, TheFontButtonStartsFromThePagesFontAndColourAndOkTakesBoth) {
+  FontScope fonts;
+  orv::LogFont verdana;
+  verdana.lfHeight = -16;
+  verdana.lfWeight = 400;
+  std::snprintf(verdana.lfFaceName, sizeof verdana.lfFaceName, "%s", "Verdana");
+  struct Case {
+    const char* name;
+    int fontId;
+    std::string color;  // LSFib_LineColor, or nothing
+    std::uint32_t startColor;
+  };
+  const Case cases[] = {
+      {"LsPgDayFibo", IDC_LS_DAY_FIBO_FONT, "<LSFib_LineColor>0x0000C0</LSFib_LineColor>", 0x0000C0},
+      {"LsPgIntraFibo", IDC_LS_INTRA_FIBO_FONT, "<LSFib_LineColor>255</LSFib_LineColor>", 255},
+      {"LsPgDayFibo", IDC_LS_DAY_FIBO_FONT, "", 0},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(std::string(c.name) + " " + c.color);
+    const bool intra = std::string(c.name).find("Intra") != std::string::npos;
+    const Chart chart = intra ? SyntheticChartData::Intraday() : SyntheticChartData::Daily();
+    const auto& bar = chart->Bars()[5];
+    const Pt p = intra ? Pt{5, 1, bar.date, bar.minutes, bar.seconds} : Pt{-1, 1, kJune3};
+    const std::string page = Wrap(
+        "CFibonacci", StudyXml(false, {p}) + c.color + "<CFontInfo FaceName=\"Tahoma\" PtSize=\"9\" Weight=\"700\"/>");
+    // Cancel: nothing changes, nothing is sent.
+    SheetRun cancelled;
+    cancelled.Run(SheetXml(c.name, page), chart, [&](HeadlessSheetRunner& r) {
+      FakeControls& f = r.Tab(0);
+      f.Click(c.fontId);
+      ASSERT_EQ(f.FontDialogs().size(), 1u);
+      EXPECT_STREQ(f.FontDialogs()[0].font.lfFaceName, "Tahoma");
+      EXPECT_EQ(f.FontDialogs()[0].font.lfHeight, -12);
+      EXPECT_EQ(f.FontDialogs()[0].font.lfWeight, 700);
+      EXPECT_EQ(f.FontDialogs()[0].color, c.startColor);
+      EXPECT_FALSE(f.IsSheetChanged());
+      EXPECT_TRUE(r.Sheet().PressOk());
+    });
+    EXPECT_TRUE(cancelled.Events().empty());
+
+    // OK: the font is sent; the colour stays with the page for the next time, never sent.
+    SheetRun chosen;
+    chosen.Run(SheetXml(c.name, page), chart, [&](HeadlessSheetRunner& r) {
+      FakeControls& f = r.Tab(0);
+      f.AnswerNextFontDialog(verdana, 0x00FF00);
+      f.Click(c.fontId);
+      EXPECT_TRUE(f.IsSheetChanged());
+      f.Click(c.fontId);
+      ASSERT_EQ(f.FontDialogs().size(), 2u);
+      EXPECT_STREQ(f.FontDialogs()[1].font.lfFaceName, "Verdana");
+      EXPECT_EQ(f.FontDialogs()[1].color, 0x00FF00u);
+      EXPECT_TRUE(r.Sheet().PressOk());
+    });
+    EXPECT_EQ(chosen.Events(),
+              std::vector<std::string>{
+                  EventXml(c.name, Wrap("CFibonacci", StudyXml(false, {p}) + FontXml("Verdana", -12, 400, 0, 0)))});
+  }
 }
 
 // --- snapping ---
