@@ -2,8 +2,9 @@
 // position pages of the trendline family and of the studies with several anchors, the Advanced
 // page), gets no chart, a daily or an intraday one (by the text's length), and a user visits
 // every tab, edits what is reachable (value, vertices, snap, spin, extend boxes, lock, the
-// Advanced page's choice) and presses OK, then Cancel if a page refused. Refusals are XmlComError; nothing else may
-// escape, and nothing may crash, hang or leak. Every event must be a document the layer reads back.
+// labels' font, the Advanced page's choice) and presses OK, then Cancel if a page refused.
+// Refusals are XmlComError; nothing else may escape, and nothing may crash, hang or leak. Every
+// event must be a document the layer reads back.
 
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +12,7 @@
 #include <string_view>
 
 #include "../linestudies/LsPageLayouts.h"
+#include "dlgkit/FontInfo.h"
 #include "dlgkit/fake/HeadlessSheetRunner.h"
 #include "dlgkit/fake/SyntheticChartData.h"
 #include "linestudies/LsPs.h"
@@ -62,6 +64,19 @@ void PlayUser(orv::FakeControls& c, std::size_t seed) {
   for (int id : {IDC_LS_DAY_EXTEND_LEFT, IDC_LS_DAY_EXTEND_RIGHT, IDC_LS_INTRA_EXTEND_LEFT, IDC_LS_INTRA_EXTEND_RIGHT,
                  IDC_LS_PARALLEL_EXTEND_LEFT, IDC_LS_PARALLEL_EXTEND_RIGHT, IDC_LS_POS_LOCK, IDC_LS_ATTACH_CHART}) {
     if (Reachable(c, id)) c.Click(id);
+  }
+  // The labels' font: chosen on odd seeds (a face that fills the record, a huge height), else cancelled.
+  for (int id : {IDC_LS_DAY_FIBO_FONT, IDC_LS_INTRA_FIBO_FONT}) {
+    if (!Reachable(c, id)) continue;
+    if (seed % 2) {
+      orv::LogFont font;
+      font.lfHeight = seed % 4 == 1 ? -2147483647 - 1 : 2147483647;
+      font.lfWeight = -5;
+      font.lfPitchAndFamily = 0xFF;
+      for (char& ch : font.lfFaceName) ch = 'W';  // no terminator
+      c.AnswerNextFontDialog(font, 0xFFFFFFFFu);
+    }
+    c.Click(id);
   }
   if (Reachable(c, IDC_LS_LRC_MULTIPLIER)) c.TypeText(IDC_LS_LRC_MULTIPLIER, "x<&>\"");
   if (Reachable(c, IDC_LS_DAY_DATE)) c.PickDateFromCalendar(IDC_LS_DAY_DATE, {2024, 6, 3});
