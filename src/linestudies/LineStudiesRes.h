@@ -73,6 +73,22 @@
 #define IDC_LINE_PG_WEIGHT_LABEL 4688
 
 // The position pages of the studies with several anchors (Fibonacci, Gann, pitchfork, parallel).
+// The Gann and pitchfork pages and the parallel channel's pages snap with box 2271 (Day; the
+// Intra Gann and pitchfork pages with 1531), as the trendline does.
+#define IDD_LS_PG_DAY_FIBO 1314
+#define IDD_LS_PG_DAY_GANN 1315
+#define IDD_LS_PG_DAY_PFORK 1316
+#define IDD_LS_PG_INTRA_FIBO 1323
+#define IDD_LS_PG_INTRA_GANN 1324
+#define IDD_LS_PG_INTRA_PFORK 1325
+#define IDD_LS_PG_DAY_PARALLEL 1394
+#define IDD_LS_PG_INTRA_PARALLEL 1395
+#define IDC_LS_INTRA_FIBO_SNAP 1541
+#define IDC_LS_INTRA_FIBO_FONT 1542
+#define IDC_LS_DAY_FIBO_SNAP 2281
+#define IDC_LS_DAY_FIBO_FONT 2282
+#define IDC_LS_PARALLEL_EXTEND_LEFT 4747
+#define IDC_LS_PARALLEL_EXTEND_RIGHT 4748
 
 // The cycle finder and the text page.
 #define IDD_LS_PG_DAY_CYCFND 1321

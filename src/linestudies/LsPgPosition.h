@@ -101,6 +101,8 @@ class CLsPgDayPosition : public CLsPgPosition {
   void OnExchangeFailed(int controlId, bool flag) override;
   // A date with a bar of its own on the chart; always false without chart data.
   bool DateOk(std::int32_t date, bool save);
+  // The base load of a Day page: CLineStudy, its points and PosLock.
+  bool LoadPoints(XmlNode propertyPage) { return CLsPgBase::Load(propertyPage); }
 
  protected:
   CLsPgDayPosition() { valueId_ = IDC_LS_DAY_VALUE; }
@@ -120,6 +122,8 @@ class CLsPgIntraPosition : public CLsPgPosition {
   virtual void UpdatePosText(bool save);
   // UDN_DELTAPOS of the spin: save, move the bar, reload.
   void OnSpin(int delta);
+  // The base load of an Intra page: MaxPos, then CLineStudy, its points and PosLock.
+  bool LoadPoints(XmlNode propertyPage) { return LoadWithMaxPos(propertyPage); }
 
  protected:
   CLsPgIntraPosition() { valueId_ = IDC_LS_INTRA_VALUE; }

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <string>
-#include <type_traits>
 
 #include "linestudies/LsPgPosition.h"
 #include "xml/Xml.h"
@@ -28,7 +27,7 @@ class CLsPgTrendline : public Base {
   static constexpr std::size_t kMultiplierBuffer = 32;
 
   bool Load(XmlNode propertyPage) override {
-    const bool loaded = LoadBase(propertyPage);
+    const bool loaded = this->LoadPoints(propertyPage);
     this->LoadSnapEntries(propertyPage);
     XmlNode wrapper = XmlFindNode(propertyPage, layout_.wrapper, true);
     if (layout_.extendLeftId) XmlGetChildValue(wrapper, "LSTrl_Extendpt1", extend1_);
@@ -78,14 +77,6 @@ class CLsPgTrendline : public Base {
   }
 
  private:
-  bool LoadBase(XmlNode propertyPage) {
-    if constexpr (std::is_base_of_v<CLsPgIntraPosition, Base>) {
-      return this->LoadWithMaxPos(propertyPage);
-    } else {
-      return CLsPgBase::Load(propertyPage);
-    }
-  }
-
   LsTrendlineLayout layout_;
   std::int32_t extend1_ = 0;
   std::int32_t extend2_ = 0;

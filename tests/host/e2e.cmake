@@ -20,6 +20,12 @@ add_test(NAME host_e2e_line_tabs
   COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/linetabs.sh $<TARGET_FILE:orvhost> ${CMAKE_CURRENT_LIST_DIR}/e2e)
 set_tests_properties(host_e2e_line_tabs PROPERTIES LABELS wine TIMEOUT 300)
 
+# The position pages of the studies with several anchors through orvhost: a Fibonacci study by
+# date, a pitchfork and a parallel channel by bar, edited by script and applied.
+add_test(NAME host_e2e_anchors
+  COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/anchors.sh $<TARGET_FILE:orvhost> ${CMAKE_CURRENT_LIST_DIR}/e2e)
+set_tests_properties(host_e2e_anchors PROPERTIES LABELS wine TIMEOUT 300)
+
 # The seasonal wizard through orvhost: the five forms and the count form walked to Finish, Cancel on
 # middle pages, the history a run leaves and the next run takes up, in the user's registry.
 # Exit code 77 (skipped): the year turned while it ran, so its expectations may be a year off.

@@ -26,6 +26,10 @@ inline constexpr int kTrendlineDialogs[] = {IDD_LS_PG_DAY_TREND, IDD_LS_PG_INTRA
                                             IDD_LS_PG_DAY_VERT,  IDD_LS_PG_INTRA_VERT,  IDD_LS_PG_DAY_LRC,
                                             IDD_LS_PG_INTRA_LRC, IDD_LS_PG_DAY_VWAP,    IDD_LS_PG_INTRA_VWAP};
 
+inline constexpr int kAnchorDialogs[] = {IDD_LS_PG_DAY_FIBO,     IDD_LS_PG_INTRA_FIBO,    IDD_LS_PG_DAY_GANN,
+                                         IDD_LS_PG_INTRA_GANN,   IDD_LS_PG_DAY_PFORK,     IDD_LS_PG_INTRA_PFORK,
+                                         IDD_LS_PG_DAY_PARALLEL, IDD_LS_PG_INTRA_PARALLEL};
+
 // A sheet runner that lays out every page that has a template.
 inline void SetLsLayouts(orv::HeadlessSheetRunner& runner) {
   for (const orv::TemplateDialog& dialog : orv::templates::kDialogs) {

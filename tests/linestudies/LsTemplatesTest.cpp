@@ -17,6 +17,7 @@ using orv::TemplateControl;
 
 TEST(LsTemplates, EveryPageTheTestsDriveHasATemplate) {
   std::vector<int> ids(std::begin(lstest::kTrendlineDialogs), std::end(lstest::kTrendlineDialogs));
+  ids.insert(ids.end(), std::begin(lstest::kAnchorDialogs), std::end(lstest::kAnchorDialogs));
   ids.push_back(IDD_LS_PG_ADVANCED);
   for (int id :
        {IDD_LS_PG_LINE_FIBO, IDD_LS_PG_LINE_GANN, IDD_LS_PG_LINE_PFORK, IDD_LS_PG_LINE_PARALLEL, IDD_GRAPH_OBJ_LINE_PG})
