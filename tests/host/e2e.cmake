@@ -20,8 +20,9 @@ add_test(NAME host_e2e_line_tabs
   COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/linetabs.sh $<TARGET_FILE:orvhost> ${CMAKE_CURRENT_LIST_DIR}/e2e)
 set_tests_properties(host_e2e_line_tabs PROPERTIES LABELS wine TIMEOUT 300)
 
-# The position pages of the studies with several anchors through orvhost: a Fibonacci study by
-# date, a pitchfork and a parallel channel by bar, edited by script and applied.
+# The studies with several anchors through orvhost: a Fibonacci study by date, a pitchfork and a
+# parallel channel by bar, their position tabs alone and whole sheets with the line tabs (a colour
+# chosen with the real colour button), edited by script and applied.
 add_test(NAME host_e2e_anchors
   COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/anchors.sh $<TARGET_FILE:orvhost> ${CMAKE_CURRENT_LIST_DIR}/e2e)
 set_tests_properties(host_e2e_anchors PROPERTIES LABELS wine TIMEOUT 300)

@@ -1,8 +1,8 @@
 #!/bin/sh
-# The position pages of the studies with several anchors end to end through orvhost, inside a
-# Wine session: a Fibonacci study by date, a pitchfork and a parallel channel by bar, each edited
-# by script in the platform's sheet and applied; the StatusEvents a C++ sink receives are
-# compared exactly.
+# The studies with several anchors end to end through orvhost, inside a Wine session: a Fibonacci
+# study by date, a pitchfork and a parallel channel by bar, their position tabs alone and then
+# whole (position and line tabs in one sheet), each edited by script in the platform's sheet and
+# applied; the StatusEvents a C++ sink receives are compared exactly.
 #   anchors.sh <orvhost.exe> <folder of the documents>
 set -u
 host=$1
@@ -12,6 +12,7 @@ out=$(mktemp) err=$(mktemp)
 trap 'rm -f "$out" "$err"' EXIT
 
 . "$(dirname "$0")/orvhost-case.sh"
+. "$(dirname "$0")/line-events.sh"
 
 doc() { winepath -w "$docs/$1"; }
 
@@ -51,5 +52,21 @@ case_ "parallel channel by bar: the partner follows, the other line keeps it par
 $(event LsPgIntraParallel CParallel "$par_ok" "$par_after")
 DoModal returned 1" --intraday --doc "$(doc parallel.xml)" \
   --script "click 1482; spin 1508 2; click 1480; expect 1504 06/19/24; text 1502 112; apply; click 1481; select 2271 1; ok"
+
+# Whole studies: the position tab and the line tab in one sheet, each edited as above (the line
+# tab's colour chosen with the real colour button), then Apply: each page sends its own event, in
+# the order of the tabs, and OK sends nothing more.
+case_ "Fibonacci sheet: position and line tabs edited, applied" 1 "$(event LsPgDayFibo CFibonacci "$fibo_points" "$fibo_font")
+$(line_fibo)
+DoModal returned 1" --doc "$(doc study-fibo.xml)" \
+  --script "text 1463 95.5; select 2281 2; tab 1; text 2415 0.5; click 2421; select 2403 1; color 2402 33; apply; tab 0; click 1482; ok"
+case_ "pitchfork sheet: position and line tabs edited, applied" 1 "$(event LsPgIntraPfork CPitchfork "$pfork_points")
+$(line_pfork)
+DoModal returned 1" --intraday --doc "$(doc study-pfork.xml)" \
+  --script "spin 1508 3; click 1481; text 1502 99.5; select 1531 3; tab 1; text 2425 0.75; color 2432 27; apply; ok"
+case_ "parallel channel sheet: position and line tabs edited, applied" 1 "$(event LsPgIntraParallel CParallel "$par_applied" "$par_after")
+$(line_parallel)
+DoModal returned 1" --intraday --doc "$(doc study-parallel.xml)" \
+  --script "click 1482; spin 1508 2; click 1480; text 1502 112; tab 1; click 2401; select 2414 2; color 2412 3; apply; ok"
 
 exit "$failures"
