@@ -60,3 +60,9 @@
 #define IDC_CD_REVERSAL 2661
 #define IDC_CD_REVERSAL_SPIN 2662
 #define IDC_CD_RESET 2663
+
+// The number format page and the price formats.
+
+// The axes pages.
+
+// The general, data window and point break pages.

@@ -13,6 +13,12 @@ namespace orv::host {
 #ifdef ORV_HAVE_CHART_PAGES
 constexpr CreatorFn kChartPagesCreator = &CreateChartPages;
 constexpr CreatorFn kChartDrawPgCreator = &CreateChartPage<CChartDrawPg>;
+// The number format page.
+
+// The axes pages.
+
+// The general, data window and point break pages.
+
 #else
 constexpr CreatorFn kChartPagesCreator = nullptr;
 constexpr CreatorFn kChartDrawPgCreator = nullptr;
