@@ -108,12 +108,7 @@ bool CLinePgBase::Exchange(bool save, int controlId) {
     // Into the line whose values the controls hold (the array grows to reach it).
     CLineProp& line = Line(lastShown_);
     line.Color = ButtonColor();
-    int style = line.Style;
-    int weight = line.Weight;
-    DDX_ComboData(IDC_LINE_PG_STYLE, &style, true);
-    DDX_ComboData(IDC_LINE_PG_WEIGHT, &weight, true);
-    line.Style = style;
-    line.Weight = weight;
+    StoreStyleAndWeight(line);
   } else {
     const CLineProp& shown = Line(selected_);
     ApplyFlagRule(shown);
@@ -132,6 +127,15 @@ bool CLinePgBase::Exchange(bool save, int controlId) {
   }
   if (Covers(controlId, IDC_LINE_PG_SHOW_PRICE)) DDX_Check(IDC_LINE_PG_SHOW_PRICE, &showPrice_, save);
   return true;
+}
+
+void CLinePgBase::StoreStyleAndWeight(CLineProp& line) {
+  int style = line.Style;
+  int weight = line.Weight;
+  DDX_ComboData(IDC_LINE_PG_STYLE, &style, true);
+  DDX_ComboData(IDC_LINE_PG_WEIGHT, &weight, true);
+  line.Style = style;
+  line.Weight = weight;
 }
 
 void CLinePgBase::OnSelectLine() {
@@ -162,15 +166,7 @@ void CLinePgBase::OnCommand(int id, int code) {
       break;
     case IDC_LINE_PG_WEIGHT:
       if (code != orv::kCbnSelChange) break;
-      {
-        CLineProp& line = Line(selected_);
-        int style = line.Style;
-        int weight = line.Weight;
-        DDX_ComboData(IDC_LINE_PG_STYLE, &style, true);
-        DDX_ComboData(IDC_LINE_PG_WEIGHT, &weight, true);
-        line.Style = style;
-        line.Weight = weight;
-      }
+      StoreStyleAndWeight(Line(selected_));
       if (!updating_) SetModified(true);
       break;
     case IDC_LINE_PG_SHOW_GRID:

@@ -65,6 +65,8 @@ class CLinePgBase : public orv::ThemedPage<CLinePgBase>, public orv::LineStudyPa
   void ApplyFlagRule(const CLineProp& line);
   void OnSelectLine();
   CLineProp& Line(int index);
+  // The style and weight boxes into `line`.
+  void StoreStyleAndWeight(CLineProp& line);
   orv::PageColorButtons* Buttons() const;
 
   std::vector<CLineProp> lines_;

@@ -8,36 +8,12 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
-#include <string_view>
 
-#include "../linestudies/LsPageLayouts.h"
-#include "dlgkit/fake/HeadlessSheetRunner.h"
-#include "dlgkit/fake/SyntheticChartData.h"
-#include "linestudies/LsPs.h"
-#include "xml/Xml.h"
+#include "LsSheetFuzz.h"
 
 namespace {
 
-struct CheckingOwner {
-  orv::Status FireStatusEvent(std::int32_t, const std::string& value, std::int32_t, const std::string&, std::int32_t&) {
-    XmlNode document = XmlCreateDocument();
-    if (!XmlLoadString(document, value)) __builtin_trap();  // the sheet sent markup it can't read
-    if (!XmlFindNode(document, "PropertyPage", true)) __builtin_trap();
-    std::int32_t transparency = 0;
-    if (XmlGetChildValue(XmlFindNode(document, "CTrendtext", true), "LSTxt_Transparency", transparency) &&
-        (transparency < 0 || transparency > 255)) {
-      __builtin_trap();
-    }
-    ++events;
-    return 0;
-  }
-  int events = 0;
-};
-
-bool Reachable(orv::FakeControls& c, int id) {
-  return c.HasDlgItem(id) && c.IsDlgItemVisible(id) && c.IsDlgItemEnabled(id);
-}
+using lsfuzz::Reachable;
 
 void PlayUser(orv::FakeControls& c, std::size_t seed) {
   static const char* const kTyped[] = {"12", "251", "-3", "0", "250", "x", ""};
@@ -64,36 +40,14 @@ void PlayUser(orv::FakeControls& c, std::size_t seed) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  XmlNode document = XmlCreateDocument();
-  if (!XmlLoadString(document, std::string_view(reinterpret_cast<const char*>(data), size))) return 0;
-  CheckingOwner owner;
-  CLsPs<CheckingOwner> sheet(&owner);
-  orv::HeadlessSheetRunner runner;
-  lstest::SetLsLayouts(runner);
-  runner.SetScript([size](orv::HeadlessSheetRunner& run) {
-    for (int tab = 0; tab < run.Sheet().PageCount() && run.Sheet().IsRunning(); ++tab) {
-      if (!run.Sheet().SelectPage(tab) && run.Sheet().CurrentPage() != tab) continue;  // kept on a page
-      PlayUser(run.Tab(tab), size + static_cast<std::size_t>(tab));
-    }
-    if (run.Sheet().IsRunning() && !run.Sheet().PressOk()) run.Sheet().PressCancel();
-  });
-  try {
-    sheet.InitFromXml(XmlFindNode(document, "PropertySheet", true));
-    switch (size % 3) {
-      case 1:
-        sheet.SetChartData(orv::SyntheticChartData::Daily(40));
-        break;
-      case 2:
-        sheet.SetChartData(orv::SyntheticChartData::Intraday(1));
-        break;
-      default:
-        break;  // DoModal without chart data
-    }
-    const std::intptr_t result = sheet.DoModal(runner);
-    if (result != 0 && result != 1) __builtin_trap();
-    if (owner.events > static_cast<int>(sheet.TabNames().size())) __builtin_trap();
-  } catch (const XmlComError&) {
-    // A page refused its element: a documented failure.
-  }
-  return 0;
+  // The transparency the host receives is an opacity, 0 to 255.
+  return lsfuzz::RunSheet(
+      data, size, [](orv::FakeControls& c, orv::LineStudyPage*, std::size_t seed) { PlayUser(c, seed); },
+      [](XmlNode document) {
+        std::int32_t transparency = 0;
+        if (XmlGetChildValue(XmlFindNode(document, "CTrendtext", true), "LSTxt_Transparency", transparency) &&
+            (transparency < 0 || transparency > 255)) {
+          __builtin_trap();
+        }
+      });
 }

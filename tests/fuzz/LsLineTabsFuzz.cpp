@@ -7,32 +7,14 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
-#include <string_view>
 
-#include "../linestudies/LsPageLayouts.h"
-#include "dlgkit/fake/HeadlessSheetRunner.h"
+#include "LsSheetFuzz.h"
 #include "linestudies/GraphObjLinePg.h"
 #include "linestudies/LsPgLineBase.h"
-#include "linestudies/LsPs.h"
-#include "xml/Xml.h"
 
 namespace {
 
-struct CheckingOwner {
-  orv::Status FireStatusEvent(std::int32_t, const std::string& value, std::int32_t, const std::string&, std::int32_t&) {
-    XmlNode document = XmlCreateDocument();
-    if (!XmlLoadString(document, value)) __builtin_trap();  // the sheet sent markup it can't read
-    if (!XmlFindNode(document, "PropertyPage", true)) __builtin_trap();
-    ++events;
-    return 0;
-  }
-  int events = 0;
-};
-
-bool Reachable(orv::FakeControls& c, int id) {
-  return c.HasDlgItem(id) && c.IsDlgItemVisible(id) && c.IsDlgItemEnabled(id);
-}
+using lsfuzz::Reachable;
 
 void PlayLineTab(orv::FakeControls& c, CLsPgLineTab* tab, std::size_t seed) {
   static const char* const kRatios[] = {"0.618", "abc", "1e308", "-0", "  2  "};
@@ -76,31 +58,8 @@ void PlayLinePage(orv::FakeControls& c, CLinePgBase* page, std::size_t seed) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  XmlNode document = XmlCreateDocument();
-  if (!XmlLoadString(document, std::string_view(reinterpret_cast<const char*>(data), size))) return 0;
-  const std::string before = XmlGetXml(document);
-  CheckingOwner owner;
-  CLsPs<CheckingOwner> sheet(&owner);
-  orv::HeadlessSheetRunner runner;
-  lstest::SetLsLayouts(runner);
-  runner.SetScript([&](orv::HeadlessSheetRunner& run) {
-    for (int tab = 0; tab < run.Sheet().PageCount() && run.Sheet().IsRunning(); ++tab) {
-      if (!run.Sheet().SelectPage(tab) && run.Sheet().CurrentPage() != tab) continue;  // kept on a page
-      const std::size_t seed = size + static_cast<std::size_t>(tab);
-      orv::LineStudyPage* page = sheet.PageOf(run.TabDialogIds()[static_cast<std::size_t>(tab)]);
-      if (auto* lineTab = dynamic_cast<CLsPgLineTab*>(page)) PlayLineTab(run.Tab(tab), lineTab, seed);
-      if (auto* linePage = dynamic_cast<CLinePgBase*>(page)) PlayLinePage(run.Tab(tab), linePage, seed);
-    }
-    if (run.Sheet().IsRunning() && !run.Sheet().PressOk()) run.Sheet().PressCancel();
+  return lsfuzz::RunSheet(data, size, [](orv::FakeControls& c, orv::LineStudyPage* page, std::size_t seed) {
+    if (auto* lineTab = dynamic_cast<CLsPgLineTab*>(page)) PlayLineTab(c, lineTab, seed);
+    if (auto* linePage = dynamic_cast<CLinePgBase*>(page)) PlayLinePage(c, linePage, seed);
   });
-  try {
-    sheet.InitFromXml(XmlFindNode(document, "PropertySheet", true));
-    const std::intptr_t result = sheet.DoModal(runner);
-    if (result != 0 && result != 1) __builtin_trap();
-    if (owner.events > static_cast<int>(sheet.TabNames().size())) __builtin_trap();
-  } catch (const XmlComError&) {
-    // A page refused its element: a documented failure.
-  }
-  if (XmlGetXml(document) != before) __builtin_trap();  // the host's document is never written
-  return 0;
 }

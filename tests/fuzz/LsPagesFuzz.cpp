@@ -4,36 +4,17 @@
 // every tab, edits what is reachable (value, vertices, snap, spin, extend boxes, lock, the
 // labels' font, the Advanced page's choice) and presses OK, then Cancel if a page refused.
 // Refusals are XmlComError; nothing else may escape, and nothing may crash, hang or leak. Every
-// event must be a document the layer reads back.
+// event must be a document the layer reads back, and the host.s document stays as it was (LsSheetFuzz.h).
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
-#include <string_view>
 
-#include "../linestudies/LsPageLayouts.h"
+#include "LsSheetFuzz.h"
 #include "dlgkit/FontInfo.h"
-#include "dlgkit/fake/HeadlessSheetRunner.h"
-#include "dlgkit/fake/SyntheticChartData.h"
-#include "linestudies/LsPs.h"
-#include "xml/Xml.h"
 
 namespace {
 
-struct CheckingOwner {
-  orv::Status FireStatusEvent(std::int32_t, const std::string& value, std::int32_t, const std::string&, std::int32_t&) {
-    XmlNode document = XmlCreateDocument();
-    if (!XmlLoadString(document, value)) __builtin_trap();  // the sheet sent markup it can't read
-    if (!XmlFindNode(document, "PropertyPage", true)) __builtin_trap();
-    ++events;
-    return 0;
-  }
-  int events = 0;
-};
-
-bool Reachable(orv::FakeControls& c, int id) {
-  return c.HasDlgItem(id) && c.IsDlgItemVisible(id) && c.IsDlgItemEnabled(id);
-}
+using lsfuzz::Reachable;
 
 void PlayUser(orv::FakeControls& c, std::size_t seed) {
   for (int id : {IDC_LS_DAY_VALUE, IDC_LS_INTRA_VALUE}) {
@@ -85,36 +66,6 @@ void PlayUser(orv::FakeControls& c, std::size_t seed) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  XmlNode document = XmlCreateDocument();
-  if (!XmlLoadString(document, std::string_view(reinterpret_cast<const char*>(data), size))) return 0;
-  CheckingOwner owner;
-  CLsPs<CheckingOwner> sheet(&owner);
-  orv::HeadlessSheetRunner runner;
-  lstest::SetLsLayouts(runner);
-  runner.SetScript([size](orv::HeadlessSheetRunner& run) {
-    for (int tab = 0; tab < run.Sheet().PageCount() && run.Sheet().IsRunning(); ++tab) {
-      if (!run.Sheet().SelectPage(tab) && run.Sheet().CurrentPage() != tab) continue;  // kept on a page
-      PlayUser(run.Tab(tab), size + static_cast<std::size_t>(tab));
-    }
-    if (run.Sheet().IsRunning() && !run.Sheet().PressOk()) run.Sheet().PressCancel();
-  });
-  try {
-    sheet.InitFromXml(XmlFindNode(document, "PropertySheet", true));
-    switch (size % 3) {
-      case 1:
-        sheet.SetChartData(orv::SyntheticChartData::Daily(40));
-        break;
-      case 2:
-        sheet.SetChartData(orv::SyntheticChartData::Intraday(1));
-        break;
-      default:
-        break;  // DoModal without chart data
-    }
-    const std::intptr_t result = sheet.DoModal(runner);
-    if (result != 0 && result != 1) __builtin_trap();
-    if (owner.events > static_cast<int>(sheet.TabNames().size())) __builtin_trap();
-  } catch (const XmlComError&) {
-    // A page refused its element: a documented failure.
-  }
-  return 0;
+  return lsfuzz::RunSheet(data, size,
+                          [](orv::FakeControls& c, orv::LineStudyPage*, std::size_t seed) { PlayUser(c, seed); });
 }
