@@ -4,7 +4,8 @@
 // every tab, edits what is reachable (value, vertices, snap, spin, extend boxes, lock, the
 // labels' font, the Advanced page's choice) and presses OK, then Cancel if a page refused.
 // Refusals are XmlComError; nothing else may escape, and nothing may crash, hang or leak. Every
-// event must be a document the layer reads back, and the host.s document stays as it was (LsSheetFuzz.h).
+// event must be a document the layer reads back, and the host's document stays as it was
+// (LsSheetFuzz.h).
 
 #include <cstddef>
 #include <cstdint>
