@@ -38,23 +38,12 @@ void ExpectSame(const CLineProp& a, const CLineProp& b) {
   EXPECT_EQ(a.Flags, b.Flags);
 }
 
-TEST(LinePropForms, EachFormWritesItsNamesInOrder) {
-  const CLineProp line = Line("Up & away", 0x00FF8040, 4, 3, 0, 6);
-  XmlNode root = Root("<R/>");
-  WriteLinePropAttrs(XmlAddChild(root, "Line"), line);
-  WriteLinePropElements(XmlAddChild(root, "LineProp"), line);
-  EXPECT_EQ(orv::Compact(XmlGetXml(root)),
-            "<R><Line Name=\"Up &amp; away\" Color=\"16744512\" Weight=\"3\" Style=\"4\" Flags=\"6\"/>"
-            "<LineProp><LineName>Up &amp; away</LineName><LineVis>FALSE</LineVis><LineColor>RGB(64,128,255)</LineColor>"
-            "<LineWeight>3</LineWeight><LineStyle>4</LineStyle><LineFlag>6</LineFlag></LineProp></R>");
-}
-
 TEST(LinePropForms, WhatEachFormWritesReadsBackAndOnlyTheElementFormCarriesVisibility) {
   struct Case {
     const char* label;
     void (*write)(XmlNode, const CLineProp&);
     void (*read)(XmlNode, CLineProp&);
-    std::uint8_t visibleAfter;  // of a hidden line written and read into a new record
+    std::uint8_t visibleAfter;  // of a hidden line written and read into a new record, visible
   };
   const Case cases[] = {
       {"attributes", WriteLinePropAttrs, ReadLinePropAttrs, 1},
@@ -97,7 +86,5 @@ TEST(LinePropForms, AbsentNamesKeepTheRecordsValues) {
     ExpectSame(line, c.expected);
   }
 }
-
-TEST(LinePropForms, ANewLineIsVisible) { EXPECT_EQ(CLineProp().Set, 1); }
 
 }  // namespace
