@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <optional>
@@ -17,7 +16,6 @@
 #include "dlgkit/fake/FakePageColorButtons.h"
 #include "dlgkit/fake/HeadlessSheetRunner.h"
 #include "dlgkit/fake/SyntheticChartData.h"
-#include "linestudies/LsPageTable.h"
 #include "linestudies/LsPgText.h"
 
 namespace {
@@ -120,23 +118,14 @@ TEST(LsTextPage, ThePageSendsItsElementsInOrderWithTheUsersChange) {
   };
   auto clickLock = [](FakeControls& c) { c.Click(IDC_LS_POS_LOCK); };
   const Case cases[] = {
-      {"everything there, the lock clicked", Lock("FALSE") + Trendtext("RGB(10,20,30)", "127", kTahoma), clickLock,
-       Lock("TRUE") + Trendtext("RGB(10,20,30)", "127", kTahoma)},
       {"a colour in hexadecimal and a number for the lock", Lock("1") + Trendtext("0x00336699", "255", kTahoma),
        clickLock, Lock("FALSE") + Trendtext("RGB(153,102,51)", "255", kTahoma)},
       // An opacity no percentage gives goes back as the one shown.
       {"an opacity between two percentages", Lock("FALSE") + Trendtext("RGB(0,0,0)", "128", kTahoma), clickLock,
        Lock("TRUE") + Trendtext("RGB(0,0,0)", "127", kTahoma)},
-      {"the transparency typed", Lock("FALSE") + Trendtext("RGB(0,0,0)", "0", kTahoma),
-       [](FakeControls& c) {
-         EXPECT_EQ(c.GetDlgItemTextA(IDC_LS_TXT_TRANSP, 64), "100");
-         c.TypeText(IDC_LS_TXT_TRANSP, "25");
-       },
-       Lock("FALSE") + Trendtext("RGB(0,0,0)", "191", kTahoma)},
       // Without the elements: black, solid, Arial 16, unlocked.
       {"an empty CTrendtext", Lock("FALSE") + "<CTrendtext/>", clickLock,
        Lock("TRUE") + Trendtext("RGB(0,0,0)", "255", kArial16)},
-      {"no CTrendtext at all", Lock("FALSE"), clickLock, Lock("TRUE") + Trendtext("RGB(0,0,0)", "255", kArial16)},
       // The text elements below other ones, and the points of CLineStudy, which aren't sent.
       {"deeper elements",
        "<Study><CLineStudy><PosLock>TRUE</PosLock><LS_CtrlPtList><CXYCoord/></LS_CtrlPtList></CLineStudy>"
@@ -150,7 +139,8 @@ TEST(LsTextPage, ThePageSendsItsElementsInOrderWithTheUsersChange) {
     const auto result = run.Run(SheetXml(kName, c.content), nullptr, [&](HeadlessSheetRunner& r) {
       EXPECT_FALSE(r.Tab(0).IsSheetChanged());
       c.change(r.Tab(0));
-      EXPECT_TRUE(r.Sheet().PressOk());
+      EXPECT_TRUE(r.Sheet().PressApply());
+      EXPECT_TRUE(r.Sheet().PressOk()) << "applied and not changed since: nothing more";
     });
     EXPECT_EQ(result, 1);
     EXPECT_EQ(run.runner.TabDialogIds(), std::vector<int>{IDD_LS_PG_TEXT});
@@ -201,26 +191,6 @@ TEST(LsTextPage, TheLockShowsOnlyWithPosLockAndAnUntouchedPageSendsNothing) {
   }
 }
 
-TEST(LsTextPage, ApplySendsOnceAndAgainAfterANewChange) {
-  SheetRun run;
-  run.Run(SheetXml(kName, Lock("FALSE") + Trendtext("RGB(1,2,3)", "255", kTahoma)), nullptr,
-          [&](HeadlessSheetRunner& r) {
-            FakeControls& tab = r.Tab(0);
-            EXPECT_TRUE(run.sheet.PageOf(IDD_LS_PG_TEXT)->AsPage().OnHelp());
-            EXPECT_EQ(tab.HelpRequests(), (std::vector<std::pair<std::string, int>>{{"CHARTX", 1333}}));
-            tab.Click(IDC_LS_POS_LOCK);
-            EXPECT_TRUE(r.Sheet().PressApply());
-            EXPECT_EQ(tab.PageApplySent(), std::vector<int>{1333});
-            EXPECT_FALSE(run.sheet.PageOf(IDD_LS_PG_TEXT)->IsDirty());
-            EXPECT_FALSE(r.Sheet().PressApply()) << "applied: Apply is off until the next change";
-            tab.TypeText(IDC_LS_TXT_TRANSP, "100");
-            EXPECT_TRUE(r.Sheet().PressOk());
-          });
-  EXPECT_EQ(run.Events(),
-            (std::vector<std::string>{EventXml(kName, Lock("TRUE") + Trendtext("RGB(1,2,3)", "255", kTahoma)),
-                                      EventXml(kName, Lock("TRUE") + Trendtext("RGB(1,2,3)", "0", kTahoma))}));
-}
-
 TEST(LsTextPage, TheUpDownStepsTheBoxWithinZeroToOneHundred) {
   struct Case {
     const char* shown;  // null: as loaded (opacity 127, 50 %)
@@ -238,9 +208,6 @@ TEST(LsTextPage, TheUpDownStepsTheBoxWithinZeroToOneHundred) {
     run.Run(SheetXml(kName, Lock("FALSE") + Trendtext("RGB(0,0,0)", "127", kTahoma)), nullptr,
             [&](HeadlessSheetRunner& r) {
               FakeControls& tab = r.Tab(0);
-              EXPECT_EQ(tab.Control(IDC_LS_TXT_TRANSP_SPIN).lower, 0);
-              EXPECT_EQ(tab.Control(IDC_LS_TXT_TRANSP_SPIN).upper, 100);
-              EXPECT_EQ(tab.Control(IDC_LS_TXT_TRANSP_SPIN).pos, 50);
               if (c.shown) tab.SetDlgItemTextA(IDC_LS_TXT_TRANSP, c.shown);
               tab.ClickSpin(IDC_LS_TXT_TRANSP_SPIN, c.delta);
               EXPECT_EQ(tab.GetDlgItemTextA(IDC_LS_TXT_TRANSP, 64), c.after);
@@ -253,23 +220,6 @@ TEST(LsTextPage, TheUpDownStepsTheBoxWithinZeroToOneHundred) {
 }
 
 // --- the colour button and the font dialog ---
-
-TEST(LsTextPage, TheColourButtonShowsTheColourAndSendsThePickedOne) {
-  orv::FakePageColorButtons buttons;
-  SheetRun run;
-  run.Run(SheetXml(kName, Lock("FALSE") + Trendtext("RGB(10,20,30)", "255", kTahoma)), nullptr,
-          [&](HeadlessSheetRunner& r) {
-            ASSERT_TRUE(buttons.IsAttached(IDC_LS_TXT_COLOR));
-            EXPECT_EQ(buttons.Color(IDC_LS_TXT_COLOR), 0x1E140Au);
-            EXPECT_FALSE(buttons.Attached().at(IDC_LS_TXT_COLOR).offerNoColor) << "a text has a colour";
-            EXPECT_FALSE(r.Tab(0).IsSheetChanged());
-            buttons.Pick(r.Tab(0), IDC_LS_TXT_COLOR, 0xFF8000);
-            EXPECT_TRUE(r.Tab(0).IsSheetChanged());
-            EXPECT_TRUE(r.Sheet().PressOk());
-          });
-  EXPECT_EQ(run.Events(),
-            std::vector<std::string>{EventXml(kName, Lock("FALSE") + Trendtext("RGB(0,128,255)", "255", kTahoma))});
-}
 
 orv::LogFont Courier() {
   orv::LogFont font;
@@ -302,8 +252,13 @@ TEST(LsTextPage, TheFontDialogStartsFromTheFontAndColourAndItsChoiceIsSent) {
     run.Run(SheetXml(kName, Lock("FALSE") + Trendtext("RGB(10,20,30)", "255", kTahoma)), nullptr,
             [&](HeadlessSheetRunner& r) {
               FakeControls& tab = r.Tab(0);
-              // The user picked a colour first: the dialog starts from it.
-              if (buttons) buttons->Pick(tab, IDC_LS_TXT_COLOR, 0x00FF00);
+              // The button shows the text's colour, with no "no colour"; the user picks another
+              // first, and the dialog starts from it.
+              if (buttons) {
+                EXPECT_EQ(buttons->Color(IDC_LS_TXT_COLOR), 0x1E140Au);
+                EXPECT_FALSE(buttons->Attached().at(IDC_LS_TXT_COLOR).offerNoColor);
+                buttons->Pick(tab, IDC_LS_TXT_COLOR, 0x00FF00);
+              }
               tab.ClearSheetChanged();
               if (c.answer) tab.AnswerNextFontDialog(Courier(), 0xFF0000);
               tab.Click(IDC_LS_TXT_FONT);
@@ -324,47 +279,6 @@ TEST(LsTextPage, TheFontDialogStartsFromTheFontAndColourAndItsChoiceIsSent) {
                                        kName, Lock("FALSE") + Trendtext(color, "255", c.answer ? courier : kTahoma))}
                                  : std::vector<std::string>{});
   }
-}
-
-// The captions and kinds the host's users know the page by, and what starts hidden.
-TEST(LsTextPage, TheTemplateHasTheControlsOfItsDesign) {
-  struct Case {
-    int id;
-    orv::FakeControlKind kind;
-    const char* text;
-    bool visible;
-  };
-  const Case cases[] = {
-      {IDC_LS_TXT_COLOR_LABEL, orv::FakeControlKind::Static, "Color:", true},
-      {IDC_LS_TXT_COLOR, orv::FakeControlKind::PushButton, "@", true},
-      {IDC_LS_TXT_TRANSP_LABEL, orv::FakeControlKind::Static, "Transparency:", true},
-      {IDC_LS_TXT_TRANSP, orv::FakeControlKind::Edit, "", true},
-      {IDC_LS_TXT_TRANSP_SPIN, orv::FakeControlKind::UpDown, "", true},
-      {IDC_LS_TXT_FONT, orv::FakeControlKind::PushButton, "Font...", true},
-      {IDC_LS_POS_LOCK, orv::FakeControlKind::CheckBox, "Lock Position", false},
-  };
-  const orv::TemplateDialog* dialog = orv::FindTemplate(orv::templates::kDialogs, IDD_LS_PG_TEXT);
-  ASSERT_NE(dialog, nullptr);
-  EXPECT_STREQ(dialog->caption, "General");
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.id);
-    const auto found = std::find_if(dialog->controls.begin(), dialog->controls.end(),
-                                    [&](const orv::TemplateControl& t) { return t.id == c.id; });
-    ASSERT_NE(found, dialog->controls.end());
-    EXPECT_EQ(found->kind, c.kind);
-    EXPECT_STREQ(found->text, c.text);
-    EXPECT_EQ(found->visible, c.visible);
-  }
-}
-
-TEST(LsTextPage, ThePageTakesNoChartData) {
-  for (const orv::LsPageInfo& info : orv::LsPageTable()) {
-    if (std::string(info.name) != kName) continue;
-    EXPECT_EQ(info.dialogId, 1333);
-    EXPECT_FALSE(info.takesChartData);
-    ASSERT_NE(info.create, nullptr);
-  }
-  EXPECT_STREQ(CLsPgText::kTitle, "General");
 }
 
 }  // namespace
