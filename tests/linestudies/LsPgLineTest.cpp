@@ -235,11 +235,6 @@ TEST(LsLineTabs, TheFibonacciBoxesBelowTheRowsAreOfferedByTheKindOfStudy) {
       EXPECT_EQ(c.IsDlgItemVisible(IDC_LS_FIB_EXTEND), k.extend);
       EXPECT_EQ(c.IsDlgItemEnabled(IDC_LS_FIB_EXTEND), k.extend);
       EXPECT_EQ(c.IsDlgItemVisible(IDC_LS_LINE_PRICE_BOX), k.priceBox);
-      EXPECT_FALSE(c.IsDlgItemVisible(IDC_LS_FIB_RESET));
-      // The defaults: labels and price box on, no extension.
-      EXPECT_EQ(c.IsDlgButtonChecked(IDC_LS_FIB_SHOW_LABELS), orv::kBstChecked);
-      EXPECT_EQ(c.IsDlgButtonChecked(IDC_LS_LINE_PRICE_BOX), orv::kBstChecked);
-      EXPECT_EQ(c.IsDlgButtonChecked(IDC_LS_FIB_EXTEND), orv::kBstUnchecked);
     });
   }
 }
