@@ -70,9 +70,7 @@ TEST(LinePropForms, AbsentNamesKeepTheRecordsValues) {
     CLineProp expected;
   };
   const Case cases[] = {
-      {"<Line/>", ReadLinePropAttrs, start},
       {"<Line Color=\"RGB(1,0,0)\" Weight=\"x\"/>", ReadLinePropAttrs, Line("Kept", 1, 1, 2, 0, 4)},
-      {"<LineProp/>", ReadLinePropElements, start},
       {"<LineProp><LineVis>TRUE</LineVis><LineStyle>3</LineStyle></LineProp>", ReadLinePropElements,
        Line("Kept", 9, 3, 2, 1, 4)},
       // A visibility that is no value keeps the record's.
