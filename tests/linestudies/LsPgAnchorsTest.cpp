@@ -506,12 +506,16 @@ TEST(LsParallelPage, OnlyATypedValueMovesTheOtherLineWhenSavedAndAtApply) {
   }
 }
 
-TEST(LsParallelPage, ExtendBoxesShowAnyNonZeroAsCheckedAndCountAsChanges) {
+// Saved, the shown top left takes its bar's date and time, and its bottom, two bars off, follows
+// it with them: the side stands upright.
+TEST(LsParallelPage, ExtendBoxesShowAnyNonZeroAsCheckedAndTheIntraPartnerFollowsItsVertex) {
+  Chart intra = SyntheticChartData::Intraday();
+  const auto& b = intra->Bars()[10];
   SheetRun run;
   run.Run(
-      SheetXml("LsPgIntraParallel", Wrap("CParallel", StudyXml(false, {Pt{10}, Pt{70}, Pt{10}, Pt{70}}) +
+      SheetXml("LsPgIntraParallel", Wrap("CParallel", StudyXml(false, {Pt{10}, Pt{70}, Pt{12}, Pt{70}}) +
                                                           "<ExtendLeft>5</ExtendLeft><ExtendRight>-1</ExtendRight>")),
-      SyntheticChartData::Intraday(), [](HeadlessSheetRunner& r) {
+      intra, [](HeadlessSheetRunner& r) {
         FakeControls& f = r.Tab(0);
         EXPECT_EQ(f.IsDlgButtonChecked(IDC_LS_PARALLEL_EXTEND_LEFT), orv::kBstChecked);
         EXPECT_EQ(f.IsDlgButtonChecked(IDC_LS_PARALLEL_EXTEND_RIGHT), orv::kBstChecked);
@@ -520,8 +524,10 @@ TEST(LsParallelPage, ExtendBoxesShowAnyNonZeroAsCheckedAndCountAsChanges) {
         EXPECT_TRUE(f.IsSheetChanged());
         EXPECT_TRUE(r.Sheet().PressOk());
       });
-  ASSERT_EQ(run.Events().size(), 1u);
-  EXPECT_NE(run.Events()[0].find(Extend(1, 0) + "</CParallel>"), std::string::npos) << run.Events()[0];
+  const Pt left{10, 0, b.date, b.minutes, b.seconds};
+  EXPECT_EQ(run.Events(),
+            std::vector<std::string>{EventXml(
+                "LsPgIntraParallel", Wrap("CParallel", StudyXml(false, {left, Pt{70}, left, Pt{70}}) + Extend(1, 0)))});
 }
 
 }  // namespace
