@@ -270,7 +270,9 @@ TEST(LsTextPage, TheFontDialogStartsFromTheFontAndColourAndItsChoiceIsSent) {
               EXPECT_EQ(shown.font.lfItalic, 1);
               EXPECT_EQ(shown.color, buttons ? 0x00FF00u : 0x1E140Au);
               EXPECT_EQ(tab.IsSheetChanged(), c.answer);
-              if (buttons) EXPECT_EQ(buttons->Color(IDC_LS_TXT_COLOR), c.answer ? 0xFF0000u : 0x00FF00u);
+              if (buttons) {
+                EXPECT_EQ(buttons->Color(IDC_LS_TXT_COLOR), c.answer ? 0xFF0000u : 0x00FF00u);
+              }
               EXPECT_TRUE(r.Sheet().PressOk());
             });
     const std::string color = c.answer ? "RGB(0,0,255)" : buttons ? "RGB(0,255,0)" : "RGB(10,20,30)";

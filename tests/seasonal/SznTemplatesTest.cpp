@@ -174,7 +174,9 @@ TEST(SznTemplates, EveryPageHoldsItsControls) {
       const TemplateControl* c = FindControl(*dialog, w.id);
       ASSERT_NE(c, nullptr) << "missing";
       EXPECT_EQ(c->kind, w.kind) << c->line;
-      if (w.text) EXPECT_STREQ(c->text, w.text) << c->line;
+      if (w.text) {
+        EXPECT_STREQ(c->text, w.text) << c->line;
+      }
       EXPECT_EQ(c->visible, w.role != kHidden) << c->line;
       switch (w.role) {
         case kHelp:
