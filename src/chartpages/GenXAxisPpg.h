@@ -32,6 +32,8 @@ class CGenXAxisPpg final : public orv::ChartPageBase<CGenXAxisPpg> {
   void Load(XmlNode root) override { props_.Read(root); }
   bool Save(XmlNode root) override;
   bool Validate() override;
+  // Apply tells the site that the page is clean before the host gets its properties.
+  bool CleansBeforeExchange() const override { return true; }
   void OnWindowClosing() override;
 
   // Page

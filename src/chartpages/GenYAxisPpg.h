@@ -40,6 +40,8 @@ class CGenYAxisPpg final : public orv::ChartPageBase<CGenYAxisPpg> {
   void Load(XmlNode root) override { props_.Read(root); }
   bool Save(XmlNode root) override;
   bool Validate() override;
+  // Apply tells the site that the page is clean before the host gets its properties.
+  bool CleansBeforeExchange() const override { return true; }
   void OnWindowClosing() override;
 
   // Page

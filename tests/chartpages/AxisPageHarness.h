@@ -25,9 +25,13 @@ class HostConnection final : public orv::ChartPageConnection {
   std::int32_t found = 1;
   std::vector<std::string> sent;
   std::vector<std::uint32_t> statuses;
+  std::vector<std::string> calls;  // "status <flags>" and "set", in order
 
   std::unique_ptr<orv::ChartPageHost> QueryHost() override { return std::make_unique<Host>(*this); }
-  void OnStatusChange(std::uint32_t flags) override { statuses.push_back(flags); }
+  void OnStatusChange(std::uint32_t flags) override {
+    statuses.push_back(flags);
+    calls.push_back("status " + std::to_string(flags));
+  }
 
  private:
   struct Host final : orv::ChartPageHost {
@@ -41,6 +45,7 @@ class HostConnection final : public orv::ChartPageConnection {
     }
     void SetPageProperties(std::int32_t, XmlNode root, std::int32_t&) override {
       owner_.sent.push_back(orv::Compact(XmlGetXml(root)));
+      owner_.calls.push_back("set");
     }
     HostConnection& owner_;
   };

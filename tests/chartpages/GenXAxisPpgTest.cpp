@@ -162,6 +162,13 @@ TEST(GenXAxisPpgApply, CleanPageSendsNothing) {
   EXPECT_EQ(p.Applied(), "");
 }
 
+TEST(GenXAxisPpgApply, CleanBeforeTheHostGetsTheProperties) {
+  XPage p(Doc(7, 1, 0, 48, 256));
+  p.controls.TypeText(IDC_XA_MARGIN, "8");
+  p.frame.Apply();
+  EXPECT_EQ(p.connection.calls, (std::vector<std::string>{"status 1", "status 4", "set"}));
+}
+
 TEST(GenXAxisPpgRules, AutomaticLabelsSwitchTheListsEachClick) {
   XPage p(Doc(0, 0, 0, 16, 512));
   p.controls.Click(IDC_XA_AUTO_CATEGORY);

@@ -313,6 +313,13 @@ TEST(GenYAxisPpgApply, CleanPageSendsNothing) {
   EXPECT_EQ(p.Applied(), "");
 }
 
+TEST(GenYAxisPpgApply, CleanBeforeTheHostGetsTheProperties) {
+  YPage p(Doc(Fields{}));
+  p.controls.Click(IDC_YA_INVERT);
+  p.frame.Apply();
+  EXPECT_EQ(p.connection.calls, (std::vector<std::string>{"status 1", "status 4", "set"}));
+}
+
 TEST(GenYAxisPpgApply, AppliedAfterTheWindowClosedSendsWhatItShowed) {
   YPage p(Doc(Fields{}));
   p.controls.Click(IDC_YA_PIN_MAJ);
