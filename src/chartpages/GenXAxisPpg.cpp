@@ -28,7 +28,7 @@ CGenXAxisPpg::CGenXAxisPpg(const orv::Clock& clock) : clock_(clock) {
   info_.dialogId = IDD_GEN_XAXIS_PPG;
   info_.rootName = kRootName;
   info_.scope = 0;
-  info_.title = "X Axis";
+  info_.title = "General";
   info_.titleId = IDS_GEN_XAXIS_PPG_TITLE;
 }
 

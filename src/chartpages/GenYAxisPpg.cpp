@@ -77,7 +77,7 @@ CGenYAxisPpg::CGenYAxisPpg() {
   info_.dialogId = IDD_GEN_YAXIS_PPG;
   info_.rootName = kRootName;
   info_.scope = 0;
-  info_.title = "Y Axis";
+  info_.title = "General";
   info_.titleId = IDS_GEN_YAXIS_PPG_TITLE;
 }
 

@@ -41,6 +41,7 @@ TEST(GenXAxisPpgInfo, WhatTheFrameKnows) {
   EXPECT_EQ(page.Info().dialogId, 1300);
   EXPECT_STREQ(page.Info().rootName, "GenXAxisPpg");
   EXPECT_EQ(page.Info().scope, 0);
+  EXPECT_STREQ(page.Info().title, "General");
   EXPECT_EQ(page.Info().titleId, IDS_GEN_XAXIS_PPG_TITLE);
 }
 

@@ -57,6 +57,7 @@ TEST(GenYAxisPpgInfo, WhatTheFrameKnows) {
   EXPECT_EQ(page.Info().dialogId, 1356);
   EXPECT_STREQ(page.Info().rootName, "GenYAxisPpg");
   EXPECT_EQ(page.Info().scope, 0);
+  EXPECT_STREQ(page.Info().title, "General");
   EXPECT_EQ(page.Info().titleId, IDS_GEN_YAXIS_PPG_TITLE);
 }
 
