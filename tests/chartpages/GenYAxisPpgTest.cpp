@@ -191,15 +191,24 @@ TEST(GenYAxisPpgDragging, ScrollPinsBothAndLeavingItUnpinsWhatItForced) {
   EXPECT_TRUE(p.Enabled(IDC_YA_PIN_MAX));
 }
 
+// Leaving "Scroll" unpins only the limit it pinned: each limit pinned by the user beforehand, in
+// either pinned state, stays pinned (at 1, which "Scroll" set).
 TEST(GenYAxisPpgDragging, PinsTheUserSetStayPinned) {
-  YPage p(Doc(Fields{}));
-  p.ClickUntil(IDC_YA_PIN_MIN, 2);  // the third state: pinned by the user
-  p.controls.Click(IDC_YA_SCROLL);
-  EXPECT_EQ(p.Check(IDC_YA_PIN_MAX), 1);
-  EXPECT_EQ(p.Check(IDC_YA_PIN_MIN), 1);  // "Scroll" sets both to 1
-  p.controls.Click(IDC_YA_SCROLL_STRETCH);
-  EXPECT_EQ(p.Check(IDC_YA_PIN_MAX), 0);
-  EXPECT_EQ(p.Check(IDC_YA_PIN_MIN), 1);
+  struct Case {
+    int userPin, userState, other;
+  };
+  for (const Case& c : {Case{IDC_YA_PIN_MAX, 1, IDC_YA_PIN_MIN}, Case{IDC_YA_PIN_MAX, 2, IDC_YA_PIN_MIN},
+                        Case{IDC_YA_PIN_MIN, 1, IDC_YA_PIN_MAX}, Case{IDC_YA_PIN_MIN, 2, IDC_YA_PIN_MAX}}) {
+    SCOPED_TRACE(testing::Message() << c.userPin << " at " << c.userState);
+    YPage p(Doc(Fields{}));
+    p.ClickUntil(c.userPin, c.userState);
+    p.controls.Click(IDC_YA_SCROLL);
+    EXPECT_EQ(p.Check(c.userPin), 1);  // "Scroll" sets both to 1
+    EXPECT_EQ(p.Check(c.other), 1);
+    p.controls.Click(IDC_YA_SCROLL_STRETCH);
+    EXPECT_EQ(p.Check(c.userPin), 1);
+    EXPECT_EQ(p.Check(c.other), 0);
+  }
 }
 
 TEST(GenYAxisPpgDragging, KeepsWhatWasTypedInTheEdits) {
