@@ -29,8 +29,8 @@ class CGenYAxisPpg final : public orv::ChartPageBase<CGenYAxisPpg> {
   // Radio groups: the first id of each, its value being the offset from it.
   static constexpr int kCoordSysRadios[] = {IDC_YA_LINEAR, IDC_YA_LOG, IDC_YA_PCT_CHANGE, IDC_YA_ZERO_TO_100};
   static constexpr int kDragModeRadios[] = {IDC_YA_SCROLL, IDC_YA_STRETCH, IDC_YA_SCROLL_STRETCH};
-  static constexpr int kPctOriginRadios[] = {IDC_YA_OLDEST,  IDC_YA_NEWEST,  IDC_YA_HIGHEST,
-                                             IDC_YA_LOWEST,  IDC_YA_AVERAGE, IDC_YA_FIXED_X};
+  static constexpr int kPctOriginRadios[] = {IDC_YA_OLDEST, IDC_YA_NEWEST,  IDC_YA_HIGHEST,
+                                             IDC_YA_LOWEST, IDC_YA_AVERAGE, IDC_YA_FIXED_X};
   static constexpr std::int32_t kPctOriginAverage = 4;
 
   CGenYAxisPpg();

@@ -22,8 +22,7 @@ using axes_test::AxisPage;
 const orv::FixedClock kMayDay({2021, 5, 1, 14, 15, 0});
 
 struct XPage : AxisPage<CGenXAxisPpg> {
-  explicit XPage(const std::string& properties)
-      : AxisPage(properties, std::make_unique<CGenXAxisPpg>(kMayDay)) {}
+  explicit XPage(const std::string& properties) : AxisPage(properties, std::make_unique<CGenXAxisPpg>(kMayDay)) {}
 };
 
 std::string Doc(int margin, int scroll, int autoCategory, int date, int time) {
@@ -47,9 +46,9 @@ TEST(GenXAxisPpgInfo, WhatTheFrameKnows) {
 
 TEST(GenXAxisPpgRows, DatesOfTodayAndFixedTimes) {
   XPage p(Doc(5, 0, 0, 16, 512));
-  const std::vector<std::pair<int, std::string>> dates = {
-      {16, "05/01/21"}, {32, "05-01-21"}, {48, "01-May-21"}, {64, "May-21"},  {80, "01/05/21"},
-      {96, "01-05-21"}, {112, "21/05/01"}, {128, "21-05-01"}, {192, "May-01"}};
+  const std::vector<std::pair<int, std::string>> dates = {{16, "05/01/21"},  {32, "05-01-21"},  {48, "01-May-21"},
+                                                          {64, "May-21"},    {80, "01/05/21"},  {96, "01-05-21"},
+                                                          {112, "21/05/01"}, {128, "21-05-01"}, {192, "May-01"}};
   ASSERT_EQ(p.controls.ComboGetCount(IDC_XA_DATE), static_cast<int>(dates.size()));
   for (int i = 0; i < static_cast<int>(dates.size()); ++i) {
     EXPECT_EQ(p.controls.ComboGetItemData(IDC_XA_DATE, i), dates[i].first);
@@ -90,16 +89,16 @@ TEST_P(GenXAxisPpgShown, ControlsShowTheDocument) {
   EXPECT_TRUE(p.connection.statuses.empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Load, GenXAxisPpgShown,
-    testing::Values(ShownCase{"AsStored", Doc(7, 1, 0, 48, 256), "7", 1, 0, 2, 1},
-                    ShownCase{"MarginAbove50Shows50", Doc(99, 0, 0, 16, 512), "50", 0, 0, 0, 0},
-                    ShownCase{"MarginBelow1Shows0", Doc(-4, 0, 0, 192, 512), "0", 0, 0, 8, 0},
-                    ShownCase{"ScrollThirdState", Doc(3, 2, 0, 16, 512), "3", 2, 0, 0, 0},
-                    ShownCase{"ScrollOutside0To2Shows0", Doc(3, 5, 0, 16, 512), "3", 0, 0, 0, 0},
-                    ShownCase{"AutomaticLabelsDisableTheLists", Doc(3, 0, 1, 16, 512), "3", 0, 1, 0, 0},
-                    ShownCase{"UnknownIdsSelectNoRow", Doc(3, 0, 0, 208, 768), "3", 0, 0, -1, -1},
-                    ShownCase{"NothingFoundShowsDefaults", "", "0", 0, 0, -1, -1}));
+INSTANTIATE_TEST_SUITE_P(Load, GenXAxisPpgShown,
+                         testing::Values(ShownCase{"AsStored", Doc(7, 1, 0, 48, 256), "7", 1, 0, 2, 1},
+                                         ShownCase{"MarginAbove50Shows50", Doc(99, 0, 0, 16, 512), "50", 0, 0, 0, 0},
+                                         ShownCase{"MarginBelow1Shows0", Doc(-4, 0, 0, 192, 512), "0", 0, 0, 8, 0},
+                                         ShownCase{"ScrollThirdState", Doc(3, 2, 0, 16, 512), "3", 2, 0, 0, 0},
+                                         ShownCase{"ScrollOutside0To2Shows0", Doc(3, 5, 0, 16, 512), "3", 0, 0, 0, 0},
+                                         ShownCase{"AutomaticLabelsDisableTheLists", Doc(3, 0, 1, 16, 512), "3", 0, 1,
+                                                   0, 0},
+                                         ShownCase{"UnknownIdsSelectNoRow", Doc(3, 0, 0, 208, 768), "3", 0, 0, -1, -1},
+                                         ShownCase{"NothingFoundShowsDefaults", "", "0", 0, 0, -1, -1}));
 
 TEST(GenXAxisPpgLoad, HostThatFoundNothingIsNotRead) {
   CGenXAxisPpg* made = new CGenXAxisPpg(kMayDay);
@@ -137,25 +136,24 @@ TEST_P(GenXAxisPpgApply, SendsTheExactDocument) {
 
 INSTANTIATE_TEST_SUITE_P(
     LoadChangeApply, GenXAxisPpgApply,
-    testing::Values(
-        ApplyCase{"Margin", Doc(7, 1, 0, 48, 256), [](XPage& p) { p.controls.TypeText(IDC_XA_MARGIN, "50"); },
-                  Sent(50, 1, 0, 48, 256)},
-        ApplyCase{"MarginHeldTo50ComesBackAs50", Doc(99, 0, 0, 16, 512),
-                  [](XPage& p) { p.controls.Click(IDC_XA_LOCK_SCROLL); }, Sent(50, 1, 0, 16, 512)},
-        ApplyCase{"LockGoesRoundItsThreeStates", Doc(0, 1, 0, 16, 512),
-                  [](XPage& p) { p.controls.Click(IDC_XA_LOCK_SCROLL); }, Sent(0, 2, 0, 16, 512)},
-        ApplyCase{"DateAndTimeRows", Doc(0, 0, 0, 16, 512),
-                  [](XPage& p) {
-                    p.controls.SelectComboItem(IDC_XA_DATE, 6);
-                    p.controls.SelectComboItem(IDC_XA_TIME, 1);
-                  },
-                  Sent(0, 0, 0, 112, 256)},
-        ApplyCase{"UnknownIdsStayAsTheyWere", Doc(4, 0, 0, 208, 768),
-                  [](XPage& p) { p.controls.TypeText(IDC_XA_MARGIN, "12"); }, Sent(12, 0, 0, 208, 768)},
-        ApplyCase{"AutomaticLabels", Doc(0, 0, 0, 16, 512),
-                  [](XPage& p) { p.controls.Click(IDC_XA_AUTO_CATEGORY); }, Sent(0, 0, 1, 16, 512)},
-        ApplyCase{"NothingFoundSendsTheDefaults", "",
-                  [](XPage& p) { p.controls.TypeText(IDC_XA_MARGIN, "3"); }, Sent(3, 0, 0, 0, 0)}),
+    testing::Values(ApplyCase{"Margin", Doc(7, 1, 0, 48, 256),
+                              [](XPage& p) { p.controls.TypeText(IDC_XA_MARGIN, "50"); }, Sent(50, 1, 0, 48, 256)},
+                    ApplyCase{"MarginHeldTo50ComesBackAs50", Doc(99, 0, 0, 16, 512),
+                              [](XPage& p) { p.controls.Click(IDC_XA_LOCK_SCROLL); }, Sent(50, 1, 0, 16, 512)},
+                    ApplyCase{"LockGoesRoundItsThreeStates", Doc(0, 1, 0, 16, 512),
+                              [](XPage& p) { p.controls.Click(IDC_XA_LOCK_SCROLL); }, Sent(0, 2, 0, 16, 512)},
+                    ApplyCase{"DateAndTimeRows", Doc(0, 0, 0, 16, 512),
+                              [](XPage& p) {
+                                p.controls.SelectComboItem(IDC_XA_DATE, 6);
+                                p.controls.SelectComboItem(IDC_XA_TIME, 1);
+                              },
+                              Sent(0, 0, 0, 112, 256)},
+                    ApplyCase{"UnknownIdsStayAsTheyWere", Doc(4, 0, 0, 208, 768),
+                              [](XPage& p) { p.controls.TypeText(IDC_XA_MARGIN, "12"); }, Sent(12, 0, 0, 208, 768)},
+                    ApplyCase{"AutomaticLabels", Doc(0, 0, 0, 16, 512),
+                              [](XPage& p) { p.controls.Click(IDC_XA_AUTO_CATEGORY); }, Sent(0, 0, 1, 16, 512)},
+                    ApplyCase{"NothingFoundSendsTheDefaults", "",
+                              [](XPage& p) { p.controls.TypeText(IDC_XA_MARGIN, "3"); }, Sent(3, 0, 0, 0, 0)}),
     [](const testing::TestParamInfo<ApplyCase>& info) { return std::string(info.param.name); });
 
 TEST(GenXAxisPpgApply, CleanPageSendsNothing) {
@@ -208,13 +206,12 @@ TEST_P(GenXAxisPpgRefusal, KeepsThePageDirtyAndSendsNothing) {
   EXPECT_EQ(p.page.Props().marginBars, 7);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Margin, GenXAxisPpgRefusal,
-    testing::Values(RefusalCase{"Above50", "51", "Margin (51) out of range: 0 - 50"},
-                    RefusalCase{"Negative", "-1", "Margin (-1) out of range: 0 - 50"},
-                    RefusalCase{"NoNumber", "ten", "Error, please enter a valid value"},
-                    RefusalCase{"Empty", "", "Error, please enter a valid value"}),
-    [](const testing::TestParamInfo<RefusalCase>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Margin, GenXAxisPpgRefusal,
+                         testing::Values(RefusalCase{"Above50", "51", "Margin (51) out of range: 0 - 50"},
+                                         RefusalCase{"Negative", "-1", "Margin (-1) out of range: 0 - 50"},
+                                         RefusalCase{"NoNumber", "ten", "Error, please enter a valid value"},
+                                         RefusalCase{"Empty", "", "Error, please enter a valid value"}),
+                         [](const testing::TestParamInfo<RefusalCase>& info) { return std::string(info.param.name); });
 
 TEST(GenXAxisPpgRefusal, EdgesOfTheRangePass) {
   for (const char* typed : {"0", "50"}) {

@@ -37,7 +37,9 @@ std::string Doc(const Fields& f) {
   auto i = [](const char* key, int value) {
     return std::string("<") + key + ">" + std::to_string(value) + "</" + key + ">";
   };
-  auto d = [](const char* key, const std::string& value) { return std::string("<") + key + ">" + value + "</" + key + ">"; };
+  auto d = [](const char* key, const std::string& value) {
+    return std::string("<") + key + ">" + value + "</" + key + ">";
+  };
   return i("CoordSys", f.coordSys) + i("DragMode", f.dragMode) + i("Inverted", f.inverted) + i("PinMax", f.pinMax) +
          i("PinMin", f.pinMin) + i("PinMaj", f.pinMaj) + i("PinMnr", f.pinMnr) + i("Precision", f.precision) +
          i("Format", f.format) + i("Market", f.market) + d("MaxRange", f.maxRange) + d("MinRange", f.minRange) +
@@ -86,19 +88,19 @@ TEST(GenYAxisPpgShown, ValuesInThePriceFormatAndTheAverageBars) {
 struct ShownCase {
   const char* name;
   Fields fields;
-  std::vector<int> checked;    // pins and radios checked (state 1)
-  std::vector<int> third;      // pins in the third state
-  std::vector<int> enabled;    // of the controls the rules decide
+  std::vector<int> checked;  // pins and radios checked (state 1)
+  std::vector<int> third;    // pins in the third state
+  std::vector<int> enabled;  // of the controls the rules decide
 };
 void PrintTo(const ShownCase& c, std::ostream* os) { *os << c.name; }
 
-const std::vector<int> kRuled = {IDC_YA_MAX,    IDC_YA_MIN,    IDC_YA_MAJOR,   IDC_YA_MINOR,   IDC_YA_PIN_MAX,
-                                 IDC_YA_PIN_MIN, IDC_YA_OLDEST, IDC_YA_NEWEST,  IDC_YA_HIGHEST, IDC_YA_LOWEST,
+const std::vector<int> kRuled = {IDC_YA_MAX,     IDC_YA_MIN,     IDC_YA_MAJOR,   IDC_YA_MINOR,   IDC_YA_PIN_MAX,
+                                 IDC_YA_PIN_MIN, IDC_YA_OLDEST,  IDC_YA_NEWEST,  IDC_YA_HIGHEST, IDC_YA_LOWEST,
                                  IDC_YA_AVERAGE, IDC_YA_FIXED_X, IDC_YA_AVG_BARS};
-const std::vector<int> kChecks = {IDC_YA_PIN_MAX, IDC_YA_PIN_MIN, IDC_YA_PIN_MAJ, IDC_YA_PIN_MNR, IDC_YA_INVERT,
-                                  IDC_YA_LINEAR,  IDC_YA_LOG,     IDC_YA_PCT_CHANGE, IDC_YA_ZERO_TO_100,
-                                  IDC_YA_SCROLL,  IDC_YA_STRETCH, IDC_YA_SCROLL_STRETCH, IDC_YA_OLDEST,
-                                  IDC_YA_NEWEST,  IDC_YA_HIGHEST, IDC_YA_LOWEST, IDC_YA_AVERAGE, IDC_YA_FIXED_X};
+const std::vector<int> kChecks = {
+    IDC_YA_PIN_MAX, IDC_YA_PIN_MIN,    IDC_YA_PIN_MAJ,     IDC_YA_PIN_MNR, IDC_YA_INVERT,  IDC_YA_LINEAR,
+    IDC_YA_LOG,     IDC_YA_PCT_CHANGE, IDC_YA_ZERO_TO_100, IDC_YA_SCROLL,  IDC_YA_STRETCH, IDC_YA_SCROLL_STRETCH,
+    IDC_YA_OLDEST,  IDC_YA_NEWEST,     IDC_YA_HIGHEST,     IDC_YA_LOWEST,  IDC_YA_AVERAGE, IDC_YA_FIXED_X};
 const std::vector<int> kNormalising = {IDC_YA_OLDEST, IDC_YA_NEWEST,  IDC_YA_HIGHEST,
                                        IDC_YA_LOWEST, IDC_YA_AVERAGE, IDC_YA_FIXED_X};
 
@@ -125,27 +127,41 @@ TEST_P(GenYAxisPpgRules, ChecksAndEnabling) {
 
 INSTANTIATE_TEST_SUITE_P(
     Load, GenYAxisPpgRules,
-    testing::Values(
-        ShownCase{"NothingPinned", Fields{}, {IDC_YA_LINEAR, IDC_YA_STRETCH, IDC_YA_OLDEST}, {},
-                  {IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}},
-        ShownCase{"PinsOpenTheirEdits",
-                  With([](Fields& f) { f.pinMax = 1, f.pinMaj = 2, f.inverted = 1; }),
-                  {IDC_YA_PIN_MAX, IDC_YA_INVERT, IDC_YA_LINEAR, IDC_YA_STRETCH, IDC_YA_OLDEST},
-                  {IDC_YA_PIN_MAJ},
-                  {IDC_YA_MAX, IDC_YA_MAJOR, IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}},
-        ShownCase{"PinOutside0To2ShowsUnpinned", With([](Fields& f) { f.pinMax = 5, f.pinMnr = -1; }),
-                  {IDC_YA_LINEAR, IDC_YA_STRETCH, IDC_YA_OLDEST}, {}, {IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}},
-        ShownCase{"ScrollLocksTheLimitPins", With([](Fields& f) { f.dragMode = 0, f.pinMin = 1; }),
-                  {IDC_YA_PIN_MIN, IDC_YA_LINEAR, IDC_YA_SCROLL, IDC_YA_OLDEST}, {}, {IDC_YA_MIN}},
-        ShownCase{"PercentChangeOpensNormalising", With([](Fields& f) { f.coordSys = 2, f.pctOrigin = 3; }),
-                  {IDC_YA_PCT_CHANGE, IDC_YA_STRETCH, IDC_YA_LOWEST}, {},
-                  Plus({IDC_YA_PIN_MAX, IDC_YA_PIN_MIN, IDC_YA_AVG_BARS}, kNormalising)},
-        ShownCase{"AverageClosesTheBarsAlsoUnderPercent",
-                  With([](Fields& f) { f.coordSys = 2, f.pctOrigin = 4, f.dragMode = 2; }),
-                  {IDC_YA_PCT_CHANGE, IDC_YA_SCROLL_STRETCH, IDC_YA_AVERAGE}, {},
-                  Plus({IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}, kNormalising)},
-        ShownCase{"ZeroTo100KeepsNormalisingShut", With([](Fields& f) { f.coordSys = 3, f.pctOrigin = 5; }),
-                  {IDC_YA_ZERO_TO_100, IDC_YA_STRETCH, IDC_YA_FIXED_X}, {}, {IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}}),
+    testing::Values(ShownCase{"NothingPinned",
+                              Fields{},
+                              {IDC_YA_LINEAR, IDC_YA_STRETCH, IDC_YA_OLDEST},
+                              {},
+                              {IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}},
+                    ShownCase{"PinsOpenTheirEdits",
+                              With([](Fields& f) { f.pinMax = 1, f.pinMaj = 2, f.inverted = 1; }),
+                              {IDC_YA_PIN_MAX, IDC_YA_INVERT, IDC_YA_LINEAR, IDC_YA_STRETCH, IDC_YA_OLDEST},
+                              {IDC_YA_PIN_MAJ},
+                              {IDC_YA_MAX, IDC_YA_MAJOR, IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}},
+                    ShownCase{"PinOutside0To2ShowsUnpinned",
+                              With([](Fields& f) { f.pinMax = 5, f.pinMnr = -1; }),
+                              {IDC_YA_LINEAR, IDC_YA_STRETCH, IDC_YA_OLDEST},
+                              {},
+                              {IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}},
+                    ShownCase{"ScrollLocksTheLimitPins",
+                              With([](Fields& f) { f.dragMode = 0, f.pinMin = 1; }),
+                              {IDC_YA_PIN_MIN, IDC_YA_LINEAR, IDC_YA_SCROLL, IDC_YA_OLDEST},
+                              {},
+                              {IDC_YA_MIN}},
+                    ShownCase{"PercentChangeOpensNormalising",
+                              With([](Fields& f) { f.coordSys = 2, f.pctOrigin = 3; }),
+                              {IDC_YA_PCT_CHANGE, IDC_YA_STRETCH, IDC_YA_LOWEST},
+                              {},
+                              Plus({IDC_YA_PIN_MAX, IDC_YA_PIN_MIN, IDC_YA_AVG_BARS}, kNormalising)},
+                    ShownCase{"AverageClosesTheBarsAlsoUnderPercent",
+                              With([](Fields& f) { f.coordSys = 2, f.pctOrigin = 4, f.dragMode = 2; }),
+                              {IDC_YA_PCT_CHANGE, IDC_YA_SCROLL_STRETCH, IDC_YA_AVERAGE},
+                              {},
+                              Plus({IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}, kNormalising)},
+                    ShownCase{"ZeroTo100KeepsNormalisingShut",
+                              With([](Fields& f) { f.coordSys = 3, f.pctOrigin = 5; }),
+                              {IDC_YA_ZERO_TO_100, IDC_YA_STRETCH, IDC_YA_FIXED_X},
+                              {},
+                              {IDC_YA_PIN_MAX, IDC_YA_PIN_MIN}}),
     [](const testing::TestParamInfo<ShownCase>& info) { return std::string(info.param.name); });
 
 TEST(GenYAxisPpgRules, PinClickSwitchesItsEdit) {
@@ -297,10 +313,9 @@ INSTANTIATE_TEST_SUITE_P(
                   With([](Fields& f) { f.pinMax = 1, f.maxRange = "0.000000"; })},
         ApplyCase{"TextThatIsNoPriceStoresTheMark", With([](Fields& f) { f.pinMin = 1; }),
                   [](YPage& p) { p.controls.TypeText(IDC_YA_MIN, "low"); },
-                  With([](Fields& f) {
-                    f.pinMin = 1, f.minRange = "1804109699999999871992642154388258816.000000";
-                  })},
-        ApplyCase{"ThirtySecondsTypedWithTheTickMark", With([](Fields& f) { f.format = 12, f.precision = 2, f.pinMnr = 1; }),
+                  With([](Fields& f) { f.pinMin = 1, f.minRange = "1804109699999999871992642154388258816.000000"; })},
+        ApplyCase{"ThirtySecondsTypedWithTheTickMark",
+                  With([](Fields& f) { f.format = 12, f.precision = 2, f.pinMnr = 1; }),
                   [](YPage& p) { p.controls.TypeText(IDC_YA_MINOR, "0'16"); },
                   With([](Fields& f) { f.format = 12, f.precision = 2, f.pinMnr = 1, f.minorSpace = "0.500000"; })},
         ApplyCase{"ScrollForcesBothLimitPins", Fields{}, [](YPage& p) { p.controls.Click(IDC_YA_SCROLL); },

@@ -36,9 +36,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (code >= 0 && code <= 7 && parts > -(std::int64_t{1} << 53) && parts < (std::int64_t{1} << 53)) {
       const std::int64_t scale = orv::PriceCodeScale(code);
       const std::int64_t magnitude = parts < 0 ? -parts : parts;
-      const std::string written = orv::StrFormat("%s%lld.%0*lld", parts < 0 ? "-" : "",
-                                                 static_cast<long long>(magnitude / scale), code,
-                                                 static_cast<long long>(magnitude % scale));
+      const std::string written =
+          orv::StrFormat("%s%lld.%0*lld", parts < 0 ? "-" : "", static_cast<long long>(magnitude / scale), code,
+                         static_cast<long long>(magnitude % scale));
       if (orv::ParsePrice(written, code) != parts) __builtin_trap();
     }
   }
