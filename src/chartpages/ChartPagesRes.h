@@ -64,5 +64,47 @@
 // The number format page and the price formats.
 
 // The axes pages.
+// The X axis general page.
+#define IDD_GEN_XAXIS_PPG 1300
+#define IDS_GEN_XAXIS_PPG_TITLE 1300
+#define IDC_XA_DISPLAY 2740
+#define IDC_XA_MARGIN_LABEL 2741
+#define IDC_XA_MARGIN 2742
+#define IDC_XA_MARGIN_SPIN 2743
+#define IDC_XA_LOCK_SCROLL 2744
+#define IDC_XA_FORMAT 2745
+#define IDC_XA_AUTO_CATEGORY 2746
+#define IDC_XA_DATE_LABEL 2747
+#define IDC_XA_DATE 2748
+#define IDC_XA_TIME_LABEL 2749
+#define IDC_XA_TIME 2750
+// The Y axis general page.
+#define IDD_GEN_YAXIS_PPG 1356
+#define IDS_GEN_YAXIS_PPG_TITLE 1356
+#define IDC_YA_PIN_MAX 2781
+#define IDC_YA_PIN_MIN 2782
+#define IDC_YA_PIN_MAJ 2783
+#define IDC_YA_PIN_MNR 2784
+#define IDC_YA_MAX 2785
+#define IDC_YA_MIN 2786
+#define IDC_YA_MAJOR 2787
+#define IDC_YA_MINOR 2788
+#define IDC_YA_INVERT 2789
+#define IDC_YA_COORDS 2790
+#define IDC_YA_LINEAR 2791
+#define IDC_YA_LOG 2792
+#define IDC_YA_PCT_CHANGE 2793
+#define IDC_YA_ZERO_TO_100 2794
+#define IDC_YA_DRAGGING 2795
+#define IDC_YA_SCROLL 2796
+#define IDC_YA_STRETCH 2797
+#define IDC_YA_SCROLL_STRETCH 2798
+#define IDC_YA_OLDEST 4663
+#define IDC_YA_NEWEST 4664
+#define IDC_YA_HIGHEST 4665
+#define IDC_YA_LOWEST 4666
+#define IDC_YA_AVERAGE 4667
+#define IDC_YA_FIXED_X 4668
+#define IDC_YA_AVG_BARS 2889
 
 // The general, data window and point break pages.

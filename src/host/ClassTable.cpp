@@ -4,6 +4,8 @@
 #include "host/ChartPagesObject.h"
 #ifdef ORV_HAVE_CHART_PAGES
 #include "chartpages/ChartDrawPg.h"
+#include "chartpages/GenXAxisPpg.h"
+#include "chartpages/GenYAxisPpg.h"
 #include "host/PropertyPage.h"
 #endif
 
@@ -16,12 +18,15 @@ constexpr CreatorFn kChartDrawPgCreator = &CreateChartPage<CChartDrawPg>;
 // The number format page.
 
 // The axes pages.
-
+constexpr CreatorFn kGenXAxisPpgCreator = &CreateChartPage<CGenXAxisPpg>;
+constexpr CreatorFn kGenYAxisPpgCreator = &CreateChartPage<CGenYAxisPpg>;
 // The general, data window and point break pages.
 
 #else
 constexpr CreatorFn kChartPagesCreator = nullptr;
 constexpr CreatorFn kChartDrawPgCreator = nullptr;
+constexpr CreatorFn kGenXAxisPpgCreator = nullptr;
+constexpr CreatorFn kGenYAxisPpgCreator = nullptr;
 #endif
 
 // The script-driven classes take their whole state from the calling host (a document, chart
@@ -40,8 +45,8 @@ const ClassEntry kClasses[] = {
     {&CLSID_ChartDrawPg, L"ChartDrawPg", L"ChartDrawPg Class", false, kNone, kNone, kChartDrawPgCreator},
     {&CLSID_ChartGenPpg, L"ChartGenPpg", L"ChartGenPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_DataWndPg, L"DataWndPg", L"DataWndPg Class", false, kNone, kNone, nullptr},
-    {&CLSID_GenXAxisPpg, L"GenXAxisPpg", L"GenXAxisPpg Class", false, kNone, kNone, nullptr},
-    {&CLSID_GenYAxisPpg, L"GenYAxisPpg", L"GenYAxisPpg Class", false, kNone, kNone, nullptr},
+    {&CLSID_GenXAxisPpg, L"GenXAxisPpg", L"GenXAxisPpg Class", false, kNone, kNone, kGenXAxisPpgCreator},
+    {&CLSID_GenYAxisPpg, L"GenYAxisPpg", L"GenYAxisPpg Class", false, kNone, kNone, kGenYAxisPpgCreator},
     {&CLSID_LinePpgX, L"LinePpgX", L"LinePpgX Class", false, kNone, kNone, nullptr},
     {&CLSID_NumFmtPpgX, L"NumFmtPpgX", L"NumFmtPpgX Class", false, kNone, kNone, nullptr},
     {&CLSID_PointBreakPpg, L"PointBreakPpg", L"PointBreakPpg Class", false, kNone, kNone, nullptr},

@@ -3,6 +3,10 @@ orv_add_fuzzer(fuzz_chartdraw_props ${CMAKE_CURRENT_LIST_DIR}/ChartDrawPropsFuzz
 
 # The number format page and the price formatter.
 
-# The axes pages.
+# The axes pages: their properties from any root of any document, read, written and read back;
+# a typed price under any code, by the parser and as the Y axis page reads a value edit.
+orv_add_fuzzer(fuzz_xaxis_props ${CMAKE_CURRENT_LIST_DIR}/GenXAxisPropsFuzz.cpp orv_chartpages RUNS 50000)
+orv_add_fuzzer(fuzz_yaxis_props ${CMAKE_CURRENT_LIST_DIR}/GenYAxisPropsFuzz.cpp orv_chartpages RUNS 50000)
+orv_add_fuzzer(fuzz_price_parse ${CMAKE_CURRENT_LIST_DIR}/PriceParseFuzz.cpp orv_chartpages)
 
 # The general, data window and point break pages.

@@ -102,13 +102,45 @@ Listing Under(const Listing& listing, const std::wstring& prefix) {
   return out;
 }
 
+// The registration of a chart page class, letter for letter, as the chart draw page's below:
+// made by a property frame only, neither programmable nor in a category.
+Listing PageClassKeys(const std::wstring& name, const GUID& clsid, const std::wstring& dll) {
+  const std::wstring c = L"Software\\Classes\\";
+  const std::wstring p = c + L"OrvChartDlgs." + name, k = c + L"CLSID\\" + GuidText(clsid);
+  const std::wstring description = name + L" Class";
+  return {p,
+          p + L"|=" + description,
+          p + L"\\CLSID",
+          p + L"\\CLSID|=" + GuidText(clsid),
+          p + L"\\CurVer",
+          p + L"\\CurVer|=OrvChartDlgs." + name + L".1",
+          p + L".1",
+          p + L".1|=" + description,
+          p + L".1\\CLSID",
+          p + L".1\\CLSID|=" + GuidText(clsid),
+          k,
+          k + L"|=" + description,
+          k + L"|AppID=" + kAppId,
+          k + L"\\ProgID",
+          k + L"\\ProgID|=OrvChartDlgs." + name + L".1",
+          k + L"\\VersionIndependentProgID",
+          k + L"\\VersionIndependentProgID|=OrvChartDlgs." + name,
+          k + L"\\InprocServer32",
+          k + L"\\InprocServer32|=" + dll,
+          k + L"\\InprocServer32|ThreadingModel=Apartment",
+          k + L"\\TypeLib",
+          k + L"\\TypeLib|=" + kTypeLib,
+          k + L"\\Version",
+          k + L"\\Version|=1.0"};
+}
+
 // The class registration of the served classes, letter for letter: ChartPages (programmable,
-// safe for scripting) and the chart draw page (made by a property frame only).
+// safe for scripting), the chart draw page and the other chart pages (made by a property frame only).
 Listing ExpectedClassKeys(const std::wstring& dll) {
   const std::wstring c = L"Software\\Classes\\";
   const std::wstring k = c + L"CLSID\\" + kChartPages;
   const std::wstring d = c + L"CLSID\\" + kChartDrawPg;
-  return {
+  Listing keys = {
       c + L"OrvChartDlgs.ChartPages",
       c + L"OrvChartDlgs.ChartPages|=ChartPages Class",
       c + L"OrvChartDlgs.ChartPages\\CLSID",
@@ -164,6 +196,10 @@ Listing ExpectedClassKeys(const std::wstring& dll) {
       d + L"\\Version",
       d + L"\\Version|=1.0",
   };
+  // The axes pages.
+  keys.merge(PageClassKeys(L"GenXAxisPpg", CLSID_GenXAxisPpg, dll));
+  keys.merge(PageClassKeys(L"GenYAxisPpg", CLSID_GenYAxisPpg, dll));
+  return keys;
 }
 
 std::optional<DWORD> ReadInstallOptions() {
