@@ -24,7 +24,8 @@
 //                         the code's digits, behind a "." for decimal codes only; so 3 3/8 in
 //                         eighths reads "33". A zero reads "0". Format 0 with precision -1 or 100
 //                         is the decimal text of the best fit.
-//   1                     the whole part alone (rounded at the code's last digit)
+//   1                     the whole part alone (rounded at the code's last digit); nothing at all
+//                         for a fraction code below one, where the whole is left out
 //   5, 6, 8               the composed text with the whole part grouped by threes with ","; 6 and
 //                         8 always put the ".", and show a zero with its digits
 //   9                     value * 100, whole part and "%"; 10 value * 100, composed, and "%"

@@ -99,6 +99,8 @@ INSTANTIATE_TEST_SUITE_P(
     Composed, Price,
     testing::Values(PriceCase{123.456, 1, 2, "123"}, PriceCase{123.996, 1, 2, "124"}, PriceCase{3.375, 1, 10, "3"},
                     PriceCase{-0.5, 1, 2, "-0"}, PriceCase{7.5, 1, 0, "8"},
+                    // below one a fraction code leaves the whole out, and format 1 writes nothing else
+                    PriceCase{0.375, 1, 10, ""}, PriceCase{-0.375, 1, 10, "-"},
                     PriceCase{1234567.891, 5, 2, "1,234,567.89"}, PriceCase{0.375, 5, 10, "03"},
                     PriceCase{0.0, 5, 2, "0"}, PriceCase{123.0, 5, 2, "123.00"}, PriceCase{0.0, 6, 2, "0.00"},
                     PriceCase{3.375, 6, 10, "3.3"}, PriceCase{1234.5, 6, 0, "1,235"},
