@@ -1,6 +1,8 @@
 #include "format/FormatPrice.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <cstring>
 
 #include "format/Truncate.h"
@@ -59,11 +61,18 @@ std::int32_t DecimalCounterpart(std::int32_t code) {
   return 0;
 }
 
-// Fixed notation with the digits of the code's decimal counterpart.
-std::string DecimalText(double value, std::int32_t code) {
-  if (value >= kNoPrice || value <= -kNoPrice) return kNoPriceText;
+// Fixed notation with the digits of the code's decimal counterpart. The one text an axis asks for
+// per label, so it is written in one pass: below 1e36 in size it has at most 36 digits before the
+// point and 9 after, with a sign (kPriceTextMax), and the buffer holds that with room to spare.
+void DecimalText(double value, std::int32_t code, std::string& out) {
+  if (value >= kNoPrice || value <= -kNoPrice) {
+    out = kNoPriceText;
+    return;
+  }
   if (!IsPlainDecimalCode(code)) code = DecimalCounterpart(BestFitCode(value));
-  return StrFormat("%.*f", static_cast<int>(PriceCodeRow(code).digits), value);
+  char buffer[kPriceTextMax + 16];
+  const int length = std::snprintf(buffer, sizeof buffer, "%.*f", static_cast<int>(PriceCodeRow(code).digits), value);
+  out.assign(buffer, length > 0 ? std::min<std::size_t>(static_cast<std::size_t>(length), sizeof buffer - 1) : 0);
 }
 
 std::uint64_t Magnitude(std::int64_t value) {
@@ -321,10 +330,10 @@ int FormatPrice(double value, std::int32_t format, std::int32_t precision, std::
     case 13: FormatSubTick(value, precision, 4, out); break;
     case 14: FormatSubTick(value, precision, 8, out); break;
     case 7: FormatSubTick(value, precision, 16, out); break;
-    case 8193: out = DecimalText(value, precision); break;
+    case 8193: DecimalText(value, precision, out); break;
     case 8195: {
       value *= std::pow(10.0, static_cast<double>(precision >> 16));
-      out = DecimalText(value, static_cast<std::int16_t>(precision & 0xffff));
+      DecimalText(value, static_cast<std::int16_t>(precision & 0xffff), out);
       break;
     }
     case 2: out = StrFormat("%g", value); break;
@@ -338,7 +347,7 @@ int FormatPrice(double value, std::int32_t format, std::int32_t precision, std::
     case 12291: FormatFractionText(value, precision, out); break;
     default:
       if (format == 0 && (precision == 100 || precision == -1))
-        out = DecimalText(value, BestFitCode(value));
+        DecimalText(value, DecimalCounterpart(BestFitCode(value)), out);
       else
         out = ComposedText(value, format, precision);
       break;
