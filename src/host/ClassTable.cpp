@@ -4,6 +4,7 @@
 #include "host/ChartPagesObject.h"
 #ifdef ORV_HAVE_CHART_PAGES
 #include "chartpages/ChartDrawPg.h"
+#include "chartpages/NumFmtPpgX.h"
 #include "host/PropertyPage.h"
 #endif
 
@@ -14,6 +15,7 @@ namespace orv::host {
 constexpr CreatorFn kChartPagesCreator = &CreateChartPages;
 constexpr CreatorFn kChartDrawPgCreator = &CreateChartPage<CChartDrawPg>;
 // The number format page.
+constexpr CreatorFn kNumFmtPpgXCreator = &CreateChartPage<CNumFmtPpgX>;
 
 // The axes pages.
 
@@ -22,6 +24,7 @@ constexpr CreatorFn kChartDrawPgCreator = &CreateChartPage<CChartDrawPg>;
 #else
 constexpr CreatorFn kChartPagesCreator = nullptr;
 constexpr CreatorFn kChartDrawPgCreator = nullptr;
+constexpr CreatorFn kNumFmtPpgXCreator = nullptr;
 #endif
 
 // The script-driven classes take their whole state from the calling host (a document, chart
@@ -43,7 +46,7 @@ const ClassEntry kClasses[] = {
     {&CLSID_GenXAxisPpg, L"GenXAxisPpg", L"GenXAxisPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_GenYAxisPpg, L"GenYAxisPpg", L"GenYAxisPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_LinePpgX, L"LinePpgX", L"LinePpgX Class", false, kNone, kNone, nullptr},
-    {&CLSID_NumFmtPpgX, L"NumFmtPpgX", L"NumFmtPpgX Class", false, kNone, kNone, nullptr},
+    {&CLSID_NumFmtPpgX, L"NumFmtPpgX", L"NumFmtPpgX Class", false, kNone, kNone, kNumFmtPpgXCreator},
     {&CLSID_PointBreakPpg, L"PointBreakPpg", L"PointBreakPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_TextGenPpg, L"TextGenPpg", L"TextGenPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_XAxisPpgX, L"XAxisPpgX", L"XAxisPpgX Class", false, kNone, kNone, nullptr},
