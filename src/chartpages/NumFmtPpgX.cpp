@@ -133,8 +133,11 @@ void CNumFmtPpgX::StoreControls() {
       if (category->kind != NumFmtKind::Fraction) category->id = value;
       break;
     }
-    case NumFmtKind::Decimal: category->precision = places_; break;
-    default: break;
+    case NumFmtKind::Decimal:
+      category->precision = places_;
+      break;
+    default:
+      break;
   }
 }
 

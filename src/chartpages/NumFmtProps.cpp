@@ -28,20 +28,24 @@ constexpr KindRow kKinds[] = {
 }  // namespace
 
 const std::vector<NumFmtType>& NumFmtTypeTable(NumFmtKind kind) {
-  static const std::vector<NumFmtType> kFraction = {
-      {100, "Best Fit"}, {8, "(1/2)"},     {9, "(1/4)"},       {10, "(1/8)"},        {11, "(1/16)"},
-      {12, "(1/32)"},    {13, "(1/64)"},   {14, "(1/128)"},    {15, "(1/256)"},      {27, "(1/512)"},
-      {1, "(1/10)"},     {2, "(1/100)"},   {3, "(1/1000)"},    {4, "(1/10000)"}};
+  static const std::vector<NumFmtType> kFraction = {{100, "Best Fit"}, {8, "(1/2)"},    {9, "(1/4)"},   {10, "(1/8)"},
+                                                    {11, "(1/16)"},    {12, "(1/32)"},  {13, "(1/64)"}, {14, "(1/128)"},
+                                                    {15, "(1/256)"},   {27, "(1/512)"}, {1, "(1/10)"},  {2, "(1/100)"},
+                                                    {3, "(1/1000)"},   {4, "(1/10000)"}};
   static const std::vector<NumFmtType> kDate = {
-      {16, "mm/dd/yy"}, {32, "mm-dd-yy"}, {48, "dd-Mon-yy"}, {64, "Mon-yy"}, {80, "dd/mm/yy"},
+      {16, "mm/dd/yy"}, {32, "mm-dd-yy"},  {48, "dd-Mon-yy"}, {64, "Mon-yy"},  {80, "dd/mm/yy"},
       {96, "dd-mm-yy"}, {112, "yy/mm/dd"}, {128, "yy-mm-dd"}, {192, "Mon-dd"}, {208, "DoW mm/dd/yy"}};
   static const std::vector<NumFmtType> kTime = {{512, " 2:30 PM"}, {256, "14:30"}, {768, " 2:30"}};
   static const std::vector<NumFmtType> kNone;
   switch (kind) {
-    case NumFmtKind::Fraction: return kFraction;
-    case NumFmtKind::Date: return kDate;
-    case NumFmtKind::Time: return kTime;
-    default: return kNone;
+    case NumFmtKind::Fraction:
+      return kFraction;
+    case NumFmtKind::Date:
+      return kDate;
+    case NumFmtKind::Time:
+      return kTime;
+    default:
+      return kNone;
   }
 }
 

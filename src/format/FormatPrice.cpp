@@ -182,8 +182,7 @@ std::int32_t BestFitCode(double value) {
   int shift = row->digits - zeros;
   if (shift < -9) shift = -9;
   if (shift > 9) shift = 9;
-  static constexpr std::int32_t kByShift[] = {26, 25, 24, 21, 20, 19, 18, 17, 16, 0,
-                                              1,  2,  3,  4,  5,  6,  7,  22, 23};
+  static constexpr std::int32_t kByShift[] = {26, 25, 24, 21, 20, 19, 18, 17, 16, 0, 1, 2, 3, 4, 5, 6, 7, 22, 23};
   return kByShift[shift + 9];
 }
 
@@ -218,11 +217,16 @@ void DecomposePrice(double value, std::int32_t& code, std::int64_t& whole, std::
 
 int FormatSubTick(double value, std::int32_t code, std::int32_t sub, std::string& out) {
   if (sub != 2 && sub != 4 && sub != 8 && sub != 16) return -1;
-  if (code == 50 || code == 51) code = 11;
-  else if (code >= 54 && code <= 56) code = 12;
-  else if (code == 57 || code == 58) code = 13;
-  else if (code == 59) code = 14;
-  else if (code == 60 || code == 61) code = 12;
+  if (code == 50 || code == 51)
+    code = 11;
+  else if (code >= 54 && code <= 56)
+    code = 12;
+  else if (code == 57 || code == 58)
+    code = 13;
+  else if (code == 59)
+    code = 14;
+  else if (code == 60 || code == 61)
+    code = 12;
   const PriceCode& row = PriceCodeRow(code);
 
   // Wrapping sums: the processor's, where the conversions already gave their indefinite values.
@@ -326,25 +330,53 @@ int FormatPrice(double value, std::int32_t format, std::int32_t precision, std::
   if (value == 0) value = 0.0;  // -0 prints as 0
 
   switch (format) {
-    case 12: FormatSubTick(value, precision, 2, out); break;
-    case 13: FormatSubTick(value, precision, 4, out); break;
-    case 14: FormatSubTick(value, precision, 8, out); break;
-    case 7: FormatSubTick(value, precision, 16, out); break;
-    case 8193: DecimalText(value, precision, out); break;
+    case 12:
+      FormatSubTick(value, precision, 2, out);
+      break;
+    case 13:
+      FormatSubTick(value, precision, 4, out);
+      break;
+    case 14:
+      FormatSubTick(value, precision, 8, out);
+      break;
+    case 7:
+      FormatSubTick(value, precision, 16, out);
+      break;
+    case 8193:
+      DecimalText(value, precision, out);
+      break;
     case 8195: {
       value *= std::pow(10.0, static_cast<double>(precision >> 16));
       DecimalText(value, static_cast<std::int16_t>(precision & 0xffff), out);
       break;
     }
-    case 2: out = StrFormat("%g", value); break;
-    case 3: FormatTickText(value, precision, out); break;
-    case 11: out = StrFormat("%.3E", value); break;
-    case 4098: out = StrFormat("%f", value + 0.0005); break;
-    case 4099: out = StrFormat("%.2f", value / 100.0 + 0.0005); break;
-    case 4100: out = StrFormat("%lld", static_cast<long long>(ToInt64(value))); break;
-    case 4101: out = StrFormat("%.2f%%", value * 100.0); break;
-    case 4105: out = StrFormat("0x%x", static_cast<unsigned>(ToInt32(value))); break;
-    case 12291: FormatFractionText(value, precision, out); break;
+    case 2:
+      out = StrFormat("%g", value);
+      break;
+    case 3:
+      FormatTickText(value, precision, out);
+      break;
+    case 11:
+      out = StrFormat("%.3E", value);
+      break;
+    case 4098:
+      out = StrFormat("%f", value + 0.0005);
+      break;
+    case 4099:
+      out = StrFormat("%.2f", value / 100.0 + 0.0005);
+      break;
+    case 4100:
+      out = StrFormat("%lld", static_cast<long long>(ToInt64(value)));
+      break;
+    case 4101:
+      out = StrFormat("%.2f%%", value * 100.0);
+      break;
+    case 4105:
+      out = StrFormat("0x%x", static_cast<unsigned>(ToInt32(value)));
+      break;
+    case 12291:
+      FormatFractionText(value, precision, out);
+      break;
     default:
       if (format == 0 && (precision == 100 || precision == -1))
         DecimalText(value, DecimalCounterpart(BestFitCode(value)), out);

@@ -124,8 +124,8 @@ std::string Sent(std::int32_t format, std::int32_t precision) {
          "\"/></NumFmtPpgX>";
 }
 
-const std::vector<std::string> kFractionTypes = {"Best Fit", "(1/2)",   "(1/4)",   "(1/8)",    "(1/16)",
-                                                 "(1/32)",   "(1/64)",  "(1/128)", "(1/256)",  "(1/512)",
+const std::vector<std::string> kFractionTypes = {"Best Fit", "(1/2)",   "(1/4)",    "(1/8)",    "(1/16)",
+                                                 "(1/32)",   "(1/64)",  "(1/128)",  "(1/256)",  "(1/512)",
                                                  "(1/10)",   "(1/100)", "(1/1000)", "(1/10000)"};
 const std::vector<std::string> kDateTypes = {"mm/dd/yy", "mm-dd-yy", "dd-Mon-yy", "Mon-yy", "dd/mm/yy",
                                              "dd-mm-yy", "yy/mm/dd", "yy-mm-dd",  "Mon-dd", "DoW mm/dd/yy"};
@@ -158,8 +158,8 @@ TEST_P(NumFmtRead, TakesTheSelectionAndTheKinds) {
   }
 }
 
-const std::vector<NumFmtKind> kKinds = {NumFmtKind::Fraction, NumFmtKind::Decimal, NumFmtKind::Date,
-                                        NumFmtKind::Time, NumFmtKind::None};
+const std::vector<NumFmtKind> kKinds = {NumFmtKind::Fraction, NumFmtKind::Decimal, NumFmtKind::Date, NumFmtKind::Time,
+                                        NumFmtKind::None};
 
 INSTANTIATE_TEST_SUITE_P(
     Documents, NumFmtRead,
@@ -176,8 +176,9 @@ INSTANTIATE_TEST_SUITE_P(
         ReadCase{"no select", Rooted(""), 0, {2, 2, 256, 16, 2}, kKinds},
         // the first category of the format is the one
         ReadCase{"first of two",
-                 Rooted(Select(7, 3), "<FormatList><Category Id=\"7\" Control=\"Decimal\"/>"
-                                   "<Category Id=\"7\" Control=\"Fraction\"/></FormatList>"),
+                 Rooted(Select(7, 3),
+                        "<FormatList><Category Id=\"7\" Control=\"Decimal\"/>"
+                        "<Category Id=\"7\" Control=\"Fraction\"/></FormatList>"),
                  0,
                  {3, 11},
                  {NumFmtKind::Decimal, NumFmtKind::Fraction}},
@@ -247,15 +248,25 @@ INSTANTIATE_TEST_SUITE_P(
         AreaCase{"nothing selected", Doc(Select(48, 2)), {}, {}, "", "", ""},
         AreaCase{"no document", "", {}, {}, "", "", ""},
         // the stretch of the table a category offers
-        AreaCase{"begin and end", Doc(Select(0, 10), FractionList("Begin=\"2\" End=\"4\"")), kList,
-                 {"(1/4)", "(1/8)", "(1/16)"}, "(1/8)", "", "1234"},
+        AreaCase{"begin and end",
+                 Doc(Select(0, 10), FractionList("Begin=\"2\" End=\"4\"")),
+                 kList,
+                 {"(1/4)", "(1/8)", "(1/16)"},
+                 "(1/8)",
+                 "",
+                 "1234"},
         AreaCase{"end past the table", Doc(Select(0, 4), FractionList("Begin=\"-3\" End=\"99\"")), kList,
                  kFractionTypes, "(1/10000)", "", "123.5039"},
-        AreaCase{"precision not offered", Doc(Select(0, 12), FractionList("Begin=\"1\" End=\"3\"")), kList,
-                 {"(1/2)", "(1/4)", "(1/8)"}, "", "", "12316"},
+        AreaCase{"precision not offered",
+                 Doc(Select(0, 12), FractionList("Begin=\"1\" End=\"3\"")),
+                 kList,
+                 {"(1/2)", "(1/4)", "(1/8)"},
+                 "",
+                 "",
+                 "12316"},
         // Begin past End: the list stays empty
-        AreaCase{"begin past end", Doc(Select(0, 10), FractionList("Begin=\"5\" End=\"4\"")), kList, {}, "", "",
-                 "1234"},
+        AreaCase{
+            "begin past end", Doc(Select(0, 10), FractionList("Begin=\"5\" End=\"4\"")), kList, {}, "", "", "1234"},
         // no Begin and End: row 1 alone
         AreaCase{"default stretch", Doc(Select(0, 8), FractionList("")), kList, {"(1/2)"}, "(1/2)", "", "1231"}));
 
@@ -302,49 +313,76 @@ INSTANTIATE_TEST_SUITE_P(
     Edits, NumFmtApply,
     testing::Values(
         EditCase{"nothing changed", Doc(Select(0, 12)), [](NumberPage&) {}, "12316", {}},
-        EditCase{"fraction type", Doc(Select(0, 12)), [](NumberPage& p) { p.SelectType("(1/8)"); }, "1234",
-                 {Sent(0, 10)}},
-        EditCase{"fraction best fit", Doc(Select(0, 12)), [](NumberPage& p) { p.SelectType("Best Fit"); },
-                 "123.50390625", {Sent(0, 100)}},
-        EditCase{"decimal places", Doc(Select(5, 4)),
-                 [](NumberPage& p) { p.controls.TypeText(IDC_NF_PLACES, "2"); }, "123.50", {Sent(5, 2)}},
+        EditCase{
+            "fraction type", Doc(Select(0, 12)), [](NumberPage& p) { p.SelectType("(1/8)"); }, "1234", {Sent(0, 10)}},
+        EditCase{"fraction best fit",
+                 Doc(Select(0, 12)),
+                 [](NumberPage& p) { p.SelectType("Best Fit"); },
+                 "123.50390625",
+                 {Sent(0, 100)}},
+        EditCase{"decimal places",
+                 Doc(Select(5, 4)),
+                 [](NumberPage& p) { p.controls.TypeText(IDC_NF_PLACES, "2"); },
+                 "123.50",
+                 {Sent(5, 2)}},
         // a date or time type is the format too
-        EditCase{"date type", Doc(Select(16, 0)), [](NumberPage& p) { p.SelectType("Mon-yy"); }, "May-02",
-                 {Sent(64, 64)}},
-        EditCase{"weekday", Doc(Select(16, 0)), [](NumberPage& p) { p.SelectType("DoW mm/dd/yy"); }, "Wed 05/01/02",
+        EditCase{
+            "date type", Doc(Select(16, 0)), [](NumberPage& p) { p.SelectType("Mon-yy"); }, "May-02", {Sent(64, 64)}},
+        EditCase{"weekday",
+                 Doc(Select(16, 0)),
+                 [](NumberPage& p) { p.SelectType("DoW mm/dd/yy"); },
+                 "Wed 05/01/02",
                  {Sent(208, 208)}},
-        EditCase{"time type", Doc(Select(256, 0)), [](NumberPage& p) { p.SelectType(" 2:30 PM"); }, " 2:30 PM",
+        EditCase{"time type",
+                 Doc(Select(256, 0)),
+                 [](NumberPage& p) { p.SelectType(" 2:30 PM"); },
+                 " 2:30 PM",
                  {Sent(512, 512)}},
         // the time format's own text: no padding
-        EditCase{"12-hour clock", Doc(Select(256, 0)), [](NumberPage& p) { p.SelectType(" 2:30"); }, "2:30",
+        EditCase{"12-hour clock",
+                 Doc(Select(256, 0)),
+                 [](NumberPage& p) { p.SelectType(" 2:30"); },
+                 "2:30",
                  {Sent(768, 768)}},
         // another category: its own pair, with its kind's precision
-        EditCase{"to decimal", Doc(Select(0, 12)), [](NumberPage& p) { p.SelectCategory("Decimal"); }, "123.50",
+        EditCase{"to decimal",
+                 Doc(Select(0, 12)),
+                 [](NumberPage& p) { p.SelectCategory("Decimal"); },
+                 "123.50",
                  {Sent(5, 2)}},
-        EditCase{"to time", Doc(Select(0, 12)),
+        EditCase{"to time",
+                 Doc(Select(0, 12)),
                  [](NumberPage& p) {
                    p.SelectCategory("Time");
                    p.SelectType("14:30");
                  },
-                 "14:30", {Sent(256, 256)}},
-        EditCase{"to a category without kind", Doc(Select(0, 12)), [](NumberPage& p) { p.SelectCategory("Ticks"); },
-                 "123' 50", {Sent(3, 2)}},
+                 "14:30",
+                 {Sent(256, 256)}},
+        EditCase{"to a category without kind",
+                 Doc(Select(0, 12)),
+                 [](NumberPage& p) { p.SelectCategory("Ticks"); },
+                 "123' 50",
+                 {Sent(3, 2)}},
         // a category keeps what was chosen on it while another was shown
-        EditCase{"away and back", Doc(Select(0, 12)),
+        EditCase{"away and back",
+                 Doc(Select(0, 12)),
                  [](NumberPage& p) {
                    p.SelectType("(1/4)");
                    p.SelectCategory("Date");
                    p.SelectType("yy-mm-dd");
                    p.SelectCategory("Fraction");
                  },
-                 "1232", {Sent(0, 9)}},
+                 "1232",
+                 {Sent(0, 9)}},
         // a decimal category read with 8 places or more: its 7 is stored once it is shown again
-        EditCase{"decimal past 7 shown again", Doc(Select(5, 12)),
+        EditCase{"decimal past 7 shown again",
+                 Doc(Select(5, 12)),
                  [](NumberPage& p) {
                    p.SelectCategory("Fraction");
                    p.SelectCategory("Decimal");
                  },
-                 "123.5039063", {Sent(5, 7)}}));
+                 "123.5039063",
+                 {Sent(5, 7)}}));
 
 // ---- The decimal places' limits ----
 

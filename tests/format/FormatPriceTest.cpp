@@ -44,36 +44,39 @@ INSTANTIATE_TEST_SUITE_P(NoData, Price,
                                          PriceCase{1e37, 12291, 10, " --- "}, PriceCase{kInf, 2, 0, " --- "},
                                          PriceCase{-kInf, 12, 12, " --- "}, PriceCase{2e36, 4100, 0, " --- "},
                                          // scaled past it by the format itself
-                                         PriceCase{1e35, 8195, (2 << 16) | 2, " --- "},
-                                         PriceCase{9e35, 0, 90, "0"}));
+                                         PriceCase{1e35, 8195, (2 << 16) | 2, " --- "}, PriceCase{9e35, 0, 90, "0"}));
 
 // Format 0 with the decimal codes: rounded half away from zero at the last digit; a zero is "0".
-INSTANTIATE_TEST_SUITE_P(
-    Decimals, Price,
-    testing::Values(PriceCase{123.5, 0, 2, "123.50"}, PriceCase{123.456, 0, 2, "123.46"},
-                    PriceCase{0.125, 0, 2, "0.13"}, PriceCase{-0.125, 0, 2, "-0.13"},
-                    PriceCase{0.999, 0, 2, "1.00"}, PriceCase{0.001, 0, 2, "0"}, PriceCase{0.0, 0, 2, "0"},
-                    PriceCase{-0.0, 0, 2, "0"}, PriceCase{2.5, 0, 0, "3"}, PriceCase{-2.5, 0, 0, "-3"},
-                    PriceCase{1.5, 0, 1, "1.5"}, PriceCase{1.5, 0, 3, "1.500"}, PriceCase{1.5, 0, 4, "1.5000"},
-                    PriceCase{1.5, 0, 5, "1.50000"}, PriceCase{1.5, 0, 6, "1.500000"},
-                    PriceCase{5.0, 0, 7, "5.0000000"}, PriceCase{1.5, 0, 22, "1.50000000"},
-                    PriceCase{1.5, 0, 23, "1.500000000"}, PriceCase{-1234.5, 0, 2, "-1234.50"},
-                    // 100 is four places outside format 0
-                    PriceCase{1.5, 6, 100, "1.5000"}));
+INSTANTIATE_TEST_SUITE_P(Decimals, Price,
+                         testing::Values(PriceCase{123.5, 0, 2, "123.50"}, PriceCase{123.456, 0, 2, "123.46"},
+                                         PriceCase{0.125, 0, 2, "0.13"}, PriceCase{-0.125, 0, 2, "-0.13"},
+                                         PriceCase{0.999, 0, 2, "1.00"}, PriceCase{0.001, 0, 2, "0"},
+                                         PriceCase{0.0, 0, 2, "0"}, PriceCase{-0.0, 0, 2, "0"},
+                                         PriceCase{2.5, 0, 0, "3"}, PriceCase{-2.5, 0, 0, "-3"},
+                                         PriceCase{1.5, 0, 1, "1.5"}, PriceCase{1.5, 0, 3, "1.500"},
+                                         PriceCase{1.5, 0, 4, "1.5000"}, PriceCase{1.5, 0, 5, "1.50000"},
+                                         PriceCase{1.5, 0, 6, "1.500000"}, PriceCase{5.0, 0, 7, "5.0000000"},
+                                         PriceCase{1.5, 0, 22, "1.50000000"}, PriceCase{1.5, 0, 23, "1.500000000"},
+                                         PriceCase{-1234.5, 0, 2, "-1234.50"},
+                                         // 100 is four places outside format 0
+                                         PriceCase{1.5, 6, 100, "1.5000"}));
 
 // Format 0 with the binary fractions: the part count behind the whole without a point, padded to
 // the code's digits, the whole left out below 1.
-INSTANTIATE_TEST_SUITE_P(
-    Fractions, Price,
-    testing::Values(PriceCase{3.375, 0, 10, "33"}, PriceCase{3.375, 0, 8, "31"}, PriceCase{3.375, 0, 9, "32"},
-                    PriceCase{3.375, 0, 11, "306"}, PriceCase{100.5, 0, 12, "10016"},
-                    PriceCase{100.015625, 0, 13, "10001"}, PriceCase{1.5, 0, 14, "1064"},
-                    PriceCase{0.5, 0, 15, "128"}, PriceCase{1.5, 0, 27, "1256"}, PriceCase{0.375, 0, 10, "3"},
-                    PriceCase{-0.375, 0, 10, "-3"}, PriceCase{-3.375, 0, 10, "-33"}, PriceCase{12.0, 0, 10, "120"},
-                    // the part count rounds up to a whole: carried into it
-                    PriceCase{3.99, 0, 10, "40"},
-                    // precision 90: hundredths, in eighths
-                    PriceCase{0.3125, 0, 90, "312"}, PriceCase{0.5, 0, 90, "500"}));
+INSTANTIATE_TEST_SUITE_P(Fractions, Price,
+                         testing::Values(PriceCase{3.375, 0, 10, "33"}, PriceCase{3.375, 0, 8, "31"},
+                                         PriceCase{3.375, 0, 9, "32"}, PriceCase{3.375, 0, 11, "306"},
+                                         PriceCase{100.5, 0, 12, "10016"}, PriceCase{100.015625, 0, 13, "10001"},
+                                         PriceCase{1.5, 0, 14, "1064"}, PriceCase{0.5, 0, 15, "128"},
+                                         PriceCase{1.5, 0, 27, "1256"}, PriceCase{0.375, 0, 10, "3"},
+                                         PriceCase{-0.375, 0, 10, "-3"}, PriceCase{-3.375, 0, 10, "-33"},
+                                         PriceCase{12.0, 0, 10, "120"},
+                                         // the part count rounds up to a whole: carried into it
+                                         PriceCase{3.99, 0, 10, "40"},
+                                         // below zero it is not carried: whole -3, part -8
+                                         PriceCase{-3.99, 0, 10, "-38"},
+                                         // precision 90: hundredths, in eighths
+                                         PriceCase{0.3125, 0, 90, "312"}, PriceCase{0.5, 0, 90, "500"}));
 
 // Codes that are neither decimals nor binary fractions, and unknown codes: the rounded whole.
 INSTANTIATE_TEST_SUITE_P(WholeCodes, Price,
@@ -84,14 +87,14 @@ INSTANTIATE_TEST_SUITE_P(WholeCodes, Price,
                                          PriceCase{7.7, 0, -5, "8"}));
 
 // Format 0 with -1 or 100: the decimal text of the best fit's decimal counterpart.
-INSTANTIATE_TEST_SUITE_P(
-    BestFit, Price,
-    testing::Values(PriceCase{123.5, 0, -1, "123.5"}, PriceCase{123.50390625, 0, 100, "123.50390625"},
-                    PriceCase{0.1, 0, -1, "0.1"}, PriceCase{1.25, 0, 100, "1.25"}, PriceCase{0.123, 0, -1, "0.123"},
-                    PriceCase{2.0, 0, -1, "2"}, PriceCase{5000.0, 0, -1, "5000.0"}, PriceCase{0.0, 0, -1, "0.0"},
-                    PriceCase{-0.75, 0, 100, "-0.75"},
-                    // elsewhere -1 is the best fit code itself: halves, so "1.1" in format 6
-                    PriceCase{1.5, 6, -1, "1.1"}));
+INSTANTIATE_TEST_SUITE_P(BestFit, Price,
+                         testing::Values(PriceCase{123.5, 0, -1, "123.5"},
+                                         PriceCase{123.50390625, 0, 100, "123.50390625"}, PriceCase{0.1, 0, -1, "0.1"},
+                                         PriceCase{1.25, 0, 100, "1.25"}, PriceCase{0.123, 0, -1, "0.123"},
+                                         PriceCase{2.0, 0, -1, "2"}, PriceCase{5000.0, 0, -1, "5000.0"},
+                                         PriceCase{0.0, 0, -1, "0.0"}, PriceCase{-0.75, 0, 100, "-0.75"},
+                                         // elsewhere -1 is the best fit code itself: halves, so "1.1" in format 6
+                                         PriceCase{1.5, 6, -1, "1.1"}));
 
 // Format 1 stops after the whole; 5, 6 and 8 group it by threes; 6 and 8 always put the point and
 // show a zero with its digits; 9 and 10 are percentages.
@@ -111,42 +114,43 @@ INSTANTIATE_TEST_SUITE_P(
                     PriceCase{123.5, 4, 2, "123.50"}, PriceCase{3.375, 999, 10, "33"}));
 
 // The decimal texts: 8193 with the code's decimal counterpart, 8195 scaled by its high half.
-INSTANTIATE_TEST_SUITE_P(
-    DecimalText, Price,
-    testing::Values(PriceCase{123.456, 8193, 2, "123.46"}, PriceCase{123.456, 8193, 10, "123.456"},
-                    PriceCase{2.5, 8193, 100, "2.5"}, PriceCase{-1.5, 8193, 4, "-1.5000"},
-                    PriceCase{1.0, 8193, 40, "1"}, PriceCase{1.5, 8195, (2 << 16) | 2, "150.00"},
-                    PriceCase{25.0, 8195, static_cast<std::int32_t>(0xFFFF0003u), "2.500"},
-                    PriceCase{0.25, 8195, (1 << 16) | 0xFFFF, "2.5"}, PriceCase{1.5, 8195, 2, "1.50"}));
+INSTANTIATE_TEST_SUITE_P(DecimalText, Price,
+                         testing::Values(PriceCase{123.456, 8193, 2, "123.46"}, PriceCase{123.456, 8193, 10, "123.456"},
+                                         PriceCase{2.5, 8193, 100, "2.5"}, PriceCase{-1.5, 8193, 4, "-1.5000"},
+                                         PriceCase{1.0, 8193, 40, "1"}, PriceCase{1.5, 8195, (2 << 16) | 2, "150.00"},
+                                         PriceCase{25.0, 8195, static_cast<std::int32_t>(0xFFFF0003u), "2.500"},
+                                         PriceCase{0.25, 8195, (1 << 16) | 0xFFFF, "2.5"},
+                                         PriceCase{1.5, 8195, 2, "1.50"}));
 
 // The printf forms.
-INSTANTIATE_TEST_SUITE_P(
-    Printf, Price,
-    testing::Values(PriceCase{123.5, 2, 2, "123.5"}, PriceCase{1e20, 2, 2, "1e+20"}, PriceCase{-0.0, 2, 2, "0"},
-                    PriceCase{123.5, 11, 2, "1.235E+02"}, PriceCase{-0.00125, 11, 0, "-1.250E-03"},
-                    PriceCase{1.5, 4098, 2, "1.500500"}, PriceCase{150.0, 4099, 2, "1.50"},
-                    PriceCase{-123.9, 4100, 2, "-123"}, PriceCase{1e30, 4100, 2, "-9223372036854775808"},
-                    PriceCase{0.1234, 4101, 2, "12.34%"}, PriceCase{255.9, 4105, 2, "0xff"},
-                    PriceCase{-1.0, 4105, 2, "0xffffffff"}, PriceCase{1e10, 4105, 2, "0x80000000"}));
+INSTANTIATE_TEST_SUITE_P(Printf, Price,
+                         testing::Values(PriceCase{123.5, 2, 2, "123.5"}, PriceCase{1e20, 2, 2, "1e+20"},
+                                         PriceCase{-0.0, 2, 2, "0"}, PriceCase{123.5, 11, 2, "1.235E+02"},
+                                         PriceCase{-0.00125, 11, 0, "-1.250E-03"}, PriceCase{1.5, 4098, 2, "1.500500"},
+                                         PriceCase{150.0, 4099, 2, "1.50"}, PriceCase{-123.9, 4100, 2, "-123"},
+                                         PriceCase{1e30, 4100, 2, "-9223372036854775808"},
+                                         PriceCase{0.1234, 4101, 2, "12.34%"}, PriceCase{255.9, 4105, 2, "0xff"},
+                                         PriceCase{-1.0, 4105, 2, "0xffffffff"},
+                                         PriceCase{1e10, 4105, 2, "0x80000000"}));
 
 // 12291: whole, part count and denominator; decimal codes take the denominator of their digits.
-INSTANTIATE_TEST_SUITE_P(
-    FractionText, Price,
-    testing::Values(PriceCase{0.375, 12291, 10, "3/8"}, PriceCase{-0.375, 12291, 10, "-3/8"},
-                    PriceCase{3.0, 12291, 10, "3"}, PriceCase{3.375, 12291, 10, "3 3/8"},
-                    PriceCase{-3.375, 12291, 10, "-3 3/8"}, PriceCase{100.5, 12291, 12, "100 16/32"},
-                    PriceCase{1.25, 12291, 2, "1 25/100"}, PriceCase{0.5, 12291, 100, "1/2"},
-                    PriceCase{1234.5, 12291, 18, "1235"}, PriceCase{-0.5, 12291, 0, "-1"},
-                    PriceCase{0.0, 12291, 10, "0"}));
+INSTANTIATE_TEST_SUITE_P(FractionText, Price,
+                         testing::Values(PriceCase{0.375, 12291, 10, "3/8"}, PriceCase{-0.375, 12291, 10, "-3/8"},
+                                         PriceCase{3.0, 12291, 10, "3"}, PriceCase{3.375, 12291, 10, "3 3/8"},
+                                         PriceCase{-3.375, 12291, 10, "-3 3/8"},
+                                         PriceCase{100.5, 12291, 12, "100 16/32"},
+                                         PriceCase{1.25, 12291, 2, "1 25/100"}, PriceCase{0.5, 12291, 100, "1/2"},
+                                         PriceCase{1234.5, 12291, 18, "1235"}, PriceCase{-0.5, 12291, 0, "-1"},
+                                         PriceCase{0.0, 12291, 10, "0"}));
 
 // 3: the tick text.
-INSTANTIATE_TEST_SUITE_P(
-    TickText, Price,
-    testing::Values(PriceCase{-0.5, 3, 2, "-0' 50"}, PriceCase{3.375, 3, 10, "3' 3"}, PriceCase{100.5, 3, 12, "100' 16"},
-                    PriceCase{100.03125, 3, 12, "100' 01"}, PriceCase{-100.5, 3, 12, "-100' 16"},
-                    PriceCase{1.25, 3, 2, "1' 25"}, PriceCase{0.25, 3, 10, "0' 2"}, PriceCase{1.5, 3, 14, "1' 064"},
-                    // no denominator: the value truncated
-                    PriceCase{2.5, 3, 0, "2"}, PriceCase{7.7, 3, 20, "7"}));
+INSTANTIATE_TEST_SUITE_P(TickText, Price,
+                         testing::Values(PriceCase{-0.5, 3, 2, "-0' 50"}, PriceCase{3.375, 3, 10, "3' 3"},
+                                         PriceCase{100.5, 3, 12, "100' 16"}, PriceCase{100.03125, 3, 12, "100' 01"},
+                                         PriceCase{-100.5, 3, 12, "-100' 16"}, PriceCase{1.25, 3, 2, "1' 25"},
+                                         PriceCase{0.25, 3, 10, "0' 2"}, PriceCase{1.5, 3, 14, "1' 064"},
+                                         // no denominator: the value truncated
+                                         PriceCase{2.5, 3, 0, "2"}, PriceCase{7.7, 3, 20, "7"}));
 
 // 12, 13, 14, 7: the tick and its half, quarter, eighth or sixteenth.
 INSTANTIATE_TEST_SUITE_P(
@@ -171,12 +175,18 @@ TEST(PriceSubTick, RefusesOtherSubSteps) {
 
 // No format is longer than the header says, at the ends of the range and past every integer.
 TEST(PriceLength, StaysWithinTheBound) {
-  const double values[] = {-9.999999999999999e35, 9.999999999999999e35, -9.2e18, 9.3e18, -2.2e9,
-                           std::numeric_limits<double>::quiet_NaN(), -1e-300, 123.5};
-  const std::int32_t formats[] = {0, 1, 2, 3, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 4098, 4099, 4100, 4101, 4105,
-                                  8193, 8195, 12291};
-  const std::int32_t precisions[] = {-1, 0, 2, 7, 10, 15, 22, 23, 27, 90, 100,
-                                     std::numeric_limits<std::int32_t>::min(), 0x7FFF0017, 0x00170017};
+  const double values[] = {-9.999999999999999e35,
+                           9.999999999999999e35,
+                           -9.2e18,
+                           9.3e18,
+                           -2.2e9,
+                           std::numeric_limits<double>::quiet_NaN(),
+                           -1e-300,
+                           123.5};
+  const std::int32_t formats[] = {0,  1,  2,  3,    5,    6,    7,    8,    9,    10,   11,
+                                  12, 13, 14, 4098, 4099, 4100, 4101, 4105, 8193, 8195, 12291};
+  const std::int32_t precisions[] = {
+      -1, 0, 2, 7, 10, 15, 22, 23, 27, 90, 100, std::numeric_limits<std::int32_t>::min(), 0x7FFF0017, 0x00170017};
   for (double value : values)
     for (std::int32_t format : formats)
       for (std::int32_t precision : precisions) {
@@ -200,18 +210,17 @@ TEST_P(BestFit, FindsTheCoarsestCode) {
   EXPECT_EQ(orv::BestFitCode(-GetParam().value), GetParam().code) << -GetParam().value;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Codes, BestFit,
-    testing::Values(FitCase{0.0, 26}, FitCase{1e-20, 26}, FitCase{1e15, 26}, FitCase{0.5, 8}, FitCase{0.25, 9},
-                    FitCase{0.125, 10}, FitCase{0.0625, 11}, FitCase{0.03125, 12}, FitCase{0.015625, 13},
-                    FitCase{0.0078125, 14}, FitCase{0.00390625, 15}, FitCase{123.50390625, 15},
-                    FitCase{101.75, 9},
-                    // 512ths are below the binary search's reach: nine decimals
-                    FitCase{0.001953125, 23}, FitCase{0.1, 1}, FitCase{0.12, 2}, FitCase{0.123, 3},
-                    FitCase{0.1234, 4}, FitCase{0.00001, 5}, FitCase{2.0, 0}, FitCase{20.0, 16},
-                    FitCase{5000.0, 18}, FitCase{1e9, 25},
-                    // within the tolerance of a whole or a half, the whole or the half
-                    FitCase{1.00000000001, 0}, FitCase{0.4999999999999, 8}));
+INSTANTIATE_TEST_SUITE_P(Codes, BestFit,
+                         testing::Values(FitCase{0.0, 26}, FitCase{1e-20, 26}, FitCase{1e15, 26}, FitCase{0.5, 8},
+                                         FitCase{0.25, 9}, FitCase{0.125, 10}, FitCase{0.0625, 11},
+                                         FitCase{0.03125, 12}, FitCase{0.015625, 13}, FitCase{0.0078125, 14},
+                                         FitCase{0.00390625, 15}, FitCase{123.50390625, 15}, FitCase{101.75, 9},
+                                         // 512ths are below the binary search's reach: nine decimals
+                                         FitCase{0.001953125, 23}, FitCase{0.1, 1}, FitCase{0.12, 2}, FitCase{0.123, 3},
+                                         FitCase{0.1234, 4}, FitCase{0.00001, 5}, FitCase{2.0, 0}, FitCase{20.0, 16},
+                                         FitCase{5000.0, 18}, FitCase{1e9, 25},
+                                         // within the tolerance of a whole or a half, the whole or the half
+                                         FitCase{1.00000000001, 0}, FitCase{0.4999999999999, 8}));
 
 struct DecomposeCase {
   double value;

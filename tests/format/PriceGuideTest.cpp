@@ -51,8 +51,8 @@ TEST(PriceGuide, TableRowsAreWhatFormatPriceWrites) {
     ASSERT_EQ(quoted.substr(quoted.size() - 2), "\"`") << line;
     const std::string expected = quoted.substr(2, quoted.size() - 4);
     std::string text;
-    orv::FormatPrice(std::strtod(cells[2].c_str(), nullptr), std::atoi(cells[0].c_str()),
-                     std::atoi(cells[1].c_str()), text);
+    orv::FormatPrice(std::strtod(cells[2].c_str(), nullptr), std::atoi(cells[0].c_str()), std::atoi(cells[1].c_str()),
+                     text);
     EXPECT_EQ(text, expected) << line;
     ++rows;
   }

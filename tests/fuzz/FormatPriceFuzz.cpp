@@ -48,8 +48,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (std::fabs(value) >= 1e36) Check(text == orv::kNoPriceText);
 
   // Every format of the table over this value and precision, and this format over the codes.
-  for (std::int32_t each : {0, 1, 2, 3, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 4098, 4099, 4100, 4101, 4105, 8193,
-                            8195, 12291}) {
+  for (std::int32_t each :
+       {0, 1, 2, 3, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 4098, 4099, 4100, 4101, 4105, 8193, 8195, 12291}) {
     Check(orv::FormatPrice(value, each, precision, text) == 0);
     Check((each == 1 || !text.empty()) && text.size() <= orv::kPriceTextMax);
   }
