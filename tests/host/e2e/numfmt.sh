@@ -29,8 +29,11 @@ $(sent 0 10)
 OnStatusChange: 4
 Frame returned 1" --doc "$doc" --script "expect 2761 Fraction; expect 2765 (1/32); expect 2763 12316; select 2765 3; expect 2763 1234; ok"
 
-# Each change tells the site; the decimal places come from the category, then the user's.
+# Each change tells the site: the category, then the typed places (orvhost's text sets the edit's
+# text, which is a change, and sends one more EN_CHANGE). The decimal places come from the
+# category, then the user's.
 page_case "decimal places, Apply, Cancel" 0 "$read
+OnStatusChange: 1
 OnStatusChange: 1
 OnStatusChange: 1
 $(sent 5 3)
