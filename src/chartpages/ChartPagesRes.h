@@ -62,6 +62,17 @@
 #define IDC_CD_RESET 2663
 
 // The number format page and the price formats.
+#define IDD_NUMFMT_PPG 1304
+#define IDS_NUMFMT_PPG_TITLE 1304
+#define IDC_NF_CATEGORY_LABEL 2760
+#define IDC_NF_CATEGORY 2761
+#define IDC_NF_SAMPLE_BOX 2762
+#define IDC_NF_SAMPLE 2763
+#define IDC_NF_TYPE_LABEL 2764
+#define IDC_NF_TYPE 2765
+#define IDC_NF_PLACES_LABEL 2766
+#define IDC_NF_PLACES 2767
+#define IDC_NF_PLACES_SPIN 2768
 
 // The axes pages.
 // The X axis general page.

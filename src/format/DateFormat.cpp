@@ -6,6 +6,7 @@
 #include "format/Calendar.h"
 #include "format/DateLocale.h"
 #include "format/DateObject.h"
+#include "format/Truncate.h"
 #include "xml/StrFormat.h"
 
 namespace {
@@ -68,13 +69,6 @@ const DateFormatRow* FindDateFormat(std::int32_t id) {
   return nullptr;
 }
 
-// The conversion of a double to a 32-bit integer as the processor makes it: toward zero, and the
-// "integer indefinite" INT32_MIN for NaN and for values beyond 32 bits.
-std::int32_t ToInt32(double value) {
-  if (!(value > -2147483649.0 && value < 2147483648.0)) return std::numeric_limits<std::int32_t>::min();
-  return static_cast<std::int32_t>(value);
-}
-
 // The milliseconds that forms 258 and 514 print after the seconds: the time of day in
 // milliseconds less its whole hours, minutes and seconds, the rest rounded to the nearest. They
 // are worked out apart from the clock text, which is rounded to the second: 0.999 of a day prints
@@ -84,7 +78,7 @@ std::int32_t MillisecondsOfDay(double date, double day) {
   rest -= std::trunc(rest / 3600000.0) * 3600000.0;
   rest -= std::trunc(rest / 60000.0) * 60000.0;
   rest -= std::trunc(rest / 1000.0) * 1000.0;
-  return ToInt32(std::round(rest));
+  return orv::ToInt32(std::round(rest));
 }
 
 // Seconds since 1 January 1970 as a date of whole minutes. The day count (25567 is 1 January 1970
@@ -128,7 +122,7 @@ int FormatDateValue(double date, std::int32_t formatId, std::string& text) {
       text = FormatLocaleDate(date, 0);
       break;
     case RowKind::DayAndDate:
-      text = orv::StrFormat("%d (%s)", ToInt32(day), object.Format(row->mask).c_str());
+      text = orv::StrFormat("%d (%s)", orv::ToInt32(day), object.Format(row->mask).c_str());
       break;
     case RowKind::Milliseconds24:
     case RowKind::Milliseconds12:

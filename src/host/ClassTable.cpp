@@ -6,6 +6,7 @@
 #include "chartpages/ChartDrawPg.h"
 #include "chartpages/GenXAxisPpg.h"
 #include "chartpages/GenYAxisPpg.h"
+#include "chartpages/NumFmtPpgX.h"
 #include "host/PropertyPage.h"
 #endif
 
@@ -16,6 +17,7 @@ namespace orv::host {
 constexpr CreatorFn kChartPagesCreator = &CreateChartPages;
 constexpr CreatorFn kChartDrawPgCreator = &CreateChartPage<CChartDrawPg>;
 // The number format page.
+constexpr CreatorFn kNumFmtPpgXCreator = &CreateChartPage<CNumFmtPpgX>;
 
 // The axes pages.
 constexpr CreatorFn kGenXAxisPpgCreator = &CreateChartPage<CGenXAxisPpg>;
@@ -27,6 +29,7 @@ constexpr CreatorFn kChartPagesCreator = nullptr;
 constexpr CreatorFn kChartDrawPgCreator = nullptr;
 constexpr CreatorFn kGenXAxisPpgCreator = nullptr;
 constexpr CreatorFn kGenYAxisPpgCreator = nullptr;
+constexpr CreatorFn kNumFmtPpgXCreator = nullptr;
 #endif
 
 // The script-driven classes take their whole state from the calling host (a document, chart
@@ -48,7 +51,7 @@ const ClassEntry kClasses[] = {
     {&CLSID_GenXAxisPpg, L"GenXAxisPpg", L"GenXAxisPpg Class", false, kNone, kNone, kGenXAxisPpgCreator},
     {&CLSID_GenYAxisPpg, L"GenYAxisPpg", L"GenYAxisPpg Class", false, kNone, kNone, kGenYAxisPpgCreator},
     {&CLSID_LinePpgX, L"LinePpgX", L"LinePpgX Class", false, kNone, kNone, nullptr},
-    {&CLSID_NumFmtPpgX, L"NumFmtPpgX", L"NumFmtPpgX Class", false, kNone, kNone, nullptr},
+    {&CLSID_NumFmtPpgX, L"NumFmtPpgX", L"NumFmtPpgX Class", false, kNone, kNone, kNumFmtPpgXCreator},
     {&CLSID_PointBreakPpg, L"PointBreakPpg", L"PointBreakPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_TextGenPpg, L"TextGenPpg", L"TextGenPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_XAxisPpgX, L"XAxisPpgX", L"XAxisPpgX Class", false, kNone, kNone, nullptr},

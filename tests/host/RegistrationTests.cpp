@@ -24,6 +24,9 @@ using Listing = std::set<std::wstring>;
 
 const wchar_t kChartPages[] = L"{938D688E-9268-4672-87AC-842DD8A62AA8}";
 const wchar_t kChartDrawPg[] = L"{6D73A8E6-1A90-438E-A317-B76226F7B7EA}";
+const wchar_t kNumFmtPpgX[] = L"{FEA090CF-4F6F-4D07-AD9B-18D39D07F784}";
+const wchar_t kGenXAxisPpg[] = L"{9F9E8A73-AFC6-4004-BC66-8359D19223AE}";
+const wchar_t kGenYAxisPpg[] = L"{97DEF558-6200-46BF-AD42-BF49C48272C3}";
 const wchar_t kAppId[] = L"{DA578EB6-B0B1-4578-9E6B-6F6529BB5929}";
 const wchar_t kTypeLib[] = L"{6A2CB4D9-8647-4339-8E26-82D3E724F0D1}";
 
@@ -102,44 +105,53 @@ Listing Under(const Listing& listing, const std::wstring& prefix) {
   return out;
 }
 
-// The registration of a chart page class, letter for letter, as the chart draw page's below:
-// made by a property frame only, neither programmable nor in a category.
-Listing PageClassKeys(const std::wstring& name, const GUID& clsid, const std::wstring& dll) {
+// The class registration of one property page class, letter for letter (made by a property frame
+// only: not programmable, no categories).
+Listing PageClassKeys(const std::wstring& clsid, const std::wstring& name, const std::wstring& dll) {
   const std::wstring c = L"Software\\Classes\\";
-  const std::wstring p = c + L"OrvChartDlgs." + name, k = c + L"CLSID\\" + GuidText(clsid);
-  const std::wstring description = name + L" Class";
-  return {p,
-          p + L"|=" + description,
-          p + L"\\CLSID",
-          p + L"\\CLSID|=" + GuidText(clsid),
-          p + L"\\CurVer",
-          p + L"\\CurVer|=OrvChartDlgs." + name + L".1",
-          p + L".1",
-          p + L".1|=" + description,
-          p + L".1\\CLSID",
-          p + L".1\\CLSID|=" + GuidText(clsid),
-          k,
-          k + L"|=" + description,
-          k + L"|AppID=" + kAppId,
-          k + L"\\ProgID",
-          k + L"\\ProgID|=OrvChartDlgs." + name + L".1",
-          k + L"\\VersionIndependentProgID",
-          k + L"\\VersionIndependentProgID|=OrvChartDlgs." + name,
-          k + L"\\InprocServer32",
-          k + L"\\InprocServer32|=" + dll,
-          k + L"\\InprocServer32|ThreadingModel=Apartment",
-          k + L"\\TypeLib",
-          k + L"\\TypeLib|=" + kTypeLib,
-          k + L"\\Version",
-          k + L"\\Version|=1.0"};
+  const std::wstring d = c + L"CLSID\\" + clsid;
+  const std::wstring progId = L"OrvChartDlgs." + name;
+  return {
+      c + progId,
+      c + progId + L"|=" + name + L" Class",
+      c + progId + L"\\CLSID",
+      c + progId + L"\\CLSID|=" + clsid,
+      c + progId + L"\\CurVer",
+      c + progId + L"\\CurVer|=" + progId + L".1",
+      c + progId + L".1",
+      c + progId + L".1|=" + name + L" Class",
+      c + progId + L".1\\CLSID",
+      c + progId + L".1\\CLSID|=" + clsid,
+      d,
+      d + L"|=" + name + L" Class",
+      d + L"|AppID=" + kAppId,
+      d + L"\\ProgID",
+      d + L"\\ProgID|=" + progId + L".1",
+      d + L"\\VersionIndependentProgID",
+      d + L"\\VersionIndependentProgID|=" + progId,
+      d + L"\\InprocServer32",
+      d + L"\\InprocServer32|=" + dll,
+      d + L"\\InprocServer32|ThreadingModel=Apartment",
+      d + L"\\TypeLib",
+      d + L"\\TypeLib|=" + kTypeLib,
+      d + L"\\Version",
+      d + L"\\Version|=1.0",
+  };
 }
 
+// The page classes the DLL serves.
+const std::pair<std::wstring, std::wstring> kServedPages[] = {
+    {kChartDrawPg, L"ChartDrawPg"},
+    {kNumFmtPpgX, L"NumFmtPpgX"},
+    {kGenXAxisPpg, L"GenXAxisPpg"},
+    {kGenYAxisPpg, L"GenYAxisPpg"},
+};
+
 // The class registration of the served classes, letter for letter: ChartPages (programmable,
-// safe for scripting), the chart draw page and the other chart pages (made by a property frame only).
+// safe for scripting) and the page classes.
 Listing ExpectedClassKeys(const std::wstring& dll) {
   const std::wstring c = L"Software\\Classes\\";
   const std::wstring k = c + L"CLSID\\" + kChartPages;
-  const std::wstring d = c + L"CLSID\\" + kChartDrawPg;
   Listing keys = {
       c + L"OrvChartDlgs.ChartPages",
       c + L"OrvChartDlgs.ChartPages|=ChartPages Class",
@@ -171,34 +183,8 @@ Listing ExpectedClassKeys(const std::wstring& dll) {
       k + L"\\Implemented Categories\\{7DD95802-9882-11CF-9FA9-00AA006C42C4}",
       c + L"AppID\\" + kAppId,
       c + L"AppID\\" + kAppId + L"|=OrvChartDlgs",
-      c + L"OrvChartDlgs.ChartDrawPg",
-      c + L"OrvChartDlgs.ChartDrawPg|=ChartDrawPg Class",
-      c + L"OrvChartDlgs.ChartDrawPg\\CLSID",
-      c + L"OrvChartDlgs.ChartDrawPg\\CLSID|=" + kChartDrawPg,
-      c + L"OrvChartDlgs.ChartDrawPg\\CurVer",
-      c + L"OrvChartDlgs.ChartDrawPg\\CurVer|=OrvChartDlgs.ChartDrawPg.1",
-      c + L"OrvChartDlgs.ChartDrawPg.1",
-      c + L"OrvChartDlgs.ChartDrawPg.1|=ChartDrawPg Class",
-      c + L"OrvChartDlgs.ChartDrawPg.1\\CLSID",
-      c + L"OrvChartDlgs.ChartDrawPg.1\\CLSID|=" + kChartDrawPg,
-      d,
-      d + L"|=ChartDrawPg Class",
-      d + L"|AppID=" + kAppId,
-      d + L"\\ProgID",
-      d + L"\\ProgID|=OrvChartDlgs.ChartDrawPg.1",
-      d + L"\\VersionIndependentProgID",
-      d + L"\\VersionIndependentProgID|=OrvChartDlgs.ChartDrawPg",
-      d + L"\\InprocServer32",
-      d + L"\\InprocServer32|=" + dll,
-      d + L"\\InprocServer32|ThreadingModel=Apartment",
-      d + L"\\TypeLib",
-      d + L"\\TypeLib|=" + kTypeLib,
-      d + L"\\Version",
-      d + L"\\Version|=1.0",
   };
-  // The axes pages.
-  keys.merge(PageClassKeys(L"GenXAxisPpg", CLSID_GenXAxisPpg, dll));
-  keys.merge(PageClassKeys(L"GenYAxisPpg", CLSID_GenYAxisPpg, dll));
+  for (const auto& [clsid, name] : kServedPages) keys.merge(PageClassKeys(clsid, name, dll));
   return keys;
 }
 

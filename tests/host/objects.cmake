@@ -60,3 +60,10 @@ add_test(NAME host_e2e_axes
   COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/axes.sh $<TARGET_FILE:orvhost> $<TARGET_FILE:OrvChartDlgs>
     ${CMAKE_CURRENT_LIST_DIR}/e2e)
 set_tests_properties(host_e2e_axes PROPERTIES LABELS wine TIMEOUT 300)
+
+# The number format page shown by orvhost in its own frame, straight from the DLL: its categories
+# served from a document, scripted choices with the sample they show, the format pair handed back.
+add_test(NAME host_e2e_numfmt
+  COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/numfmt.sh $<TARGET_FILE:orvhost> $<TARGET_FILE:OrvChartDlgs>
+    ${CMAKE_CURRENT_LIST_DIR}/e2e)
+set_tests_properties(host_e2e_numfmt PROPERTIES LABELS wine TIMEOUT 300)
