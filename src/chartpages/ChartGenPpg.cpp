@@ -1,20 +1,8 @@
 #include "chartpages/ChartGenPpg.h"
 
-#include <algorithm>
-#include <cmath>
-
+#include "chartpages/Transparency.h"
 #include "dlgkit/Controls.h"
 #include "dlgkit/Page.h"
-
-int ChartGenAlphaToPercent(double alpha) {
-  const double percent = std::trunc((255.0 - alpha) / 2.5499);
-  return static_cast<int>(std::clamp(percent, 0.0, 100.0));
-}
-
-std::uint32_t ChartGenPercentToAlpha(unsigned percent) {
-  const unsigned held = std::min(percent, 100u);
-  return static_cast<std::uint32_t>(std::trunc((100.0 - held) * 2.5501));
-}
 
 CChartGenPpg::CChartGenPpg() {
   info_.dialogId = IDD_CHART_GEN_PPG;
@@ -45,7 +33,7 @@ void CChartGenPpg::Load(XmlNode root) {
   XmlGetChildValue(node, "ShowPrintHdr", header);
   printHeader_ = static_cast<std::int32_t>(header);
   if (!hasSpin_) return;
-  const int percent = ChartGenAlphaToPercent(static_cast<double>(alpha));
+  const int percent = orv::TransparencyPercent(static_cast<double>(alpha));
   Ctl().SetDlgItemInt(IDC_CG_TRANSP, static_cast<unsigned>(percent), false);
   Ctl().UpDownSetPos(IDC_CG_TRANSP_SPIN, percent);
 }
@@ -57,7 +45,7 @@ std::string CChartGenPpg::TransparencyText() {
 bool CChartGenPpg::Save(XmlNode root) {
   // A text that isn't a number counts as 0 percent; above 100 is held to 100.
   const unsigned percent = orv::ParseDlgItemInt(TransparencyText(), false).value_or(0);
-  XmlAddValueChild(root, "CurWndTransp", ChartGenPercentToAlpha(percent));
+  XmlAddValueChild(root, "CurWndTransp", orv::TransparencyAlpha(percent));
   XmlAddValueChild(root, "ShowPrintHdr", printHeader_);
   return true;
 }

@@ -11,10 +11,6 @@
 #include "dlgkit/DataExchange.h"
 #include "xml/Xml.h"
 
-// The page's one conversion, both ways.
-int ChartGenAlphaToPercent(double alpha);
-std::uint32_t ChartGenPercentToAlpha(unsigned percent);
-
 class CChartGenPpg final : public orv::ChartPageBase<CChartGenPpg> {
  public:
   static constexpr const char* kRootName = "ChartGenPpg";

@@ -32,6 +32,8 @@ inline constexpr unsigned kBeepSimple = 0xFFFFFFFFu;
 // The page-apply message a page sends its sheet: wParam the page's dialog id.
 inline constexpr unsigned kWmLsPageApply = 1425;
 
+class Page;
+
 class Controls {
  public:
   virtual ~Controls() = default;
@@ -135,6 +137,12 @@ class Controls {
   virtual std::intptr_t SendPageApply(int dialogId) = 0;
   // PSM_SETWIZBUTTONS (posted): PSWIZB_BACK 1, PSWIZB_NEXT 2, PSWIZB_FINISH 4.
   virtual void SetWizardButtons(unsigned flags) = 0;
+
+  // --- a dialog of the kit over this one ---
+  // Runs `dialog`, a plain modal dialog made from its template (its DialogId()), owned by this
+  // dialog's window, until it ends: kIdOkButton, kIdCancelButton, -1 when it can't be shown.
+  // Where no platform dialog can be made (natively) it isn't shown: -1.
+  virtual std::intptr_t RunModalDialog(Page& dialog) { return -1; }
 };
 
 // The one reading of an integer field, shared by every Controls implementation so that a

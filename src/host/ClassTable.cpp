@@ -5,6 +5,7 @@
 #ifdef ORV_HAVE_CHART_PAGES
 #include "chartpages/ChartDrawPg.h"
 #include "chartpages/ChartGenPpg.h"
+#include "chartpages/DataWndPg.h"
 #include "chartpages/PointBreakPpg.h"
 #include "host/PropertyPage.h"
 #endif
@@ -22,11 +23,13 @@ constexpr CreatorFn kChartDrawPgCreator = &CreateChartPage<CChartDrawPg>;
 // The general, data window and point break pages.
 constexpr CreatorFn kChartGenPpgCreator = &CreateChartPage<CChartGenPpg>;
 constexpr CreatorFn kPointBreakPpgCreator = &CreateChartPage<CPointBreakPpg>;
+constexpr CreatorFn kDataWndPgCreator = &CreateChartPage<CDataWndPg>;
 #else
 constexpr CreatorFn kChartPagesCreator = nullptr;
 constexpr CreatorFn kChartDrawPgCreator = nullptr;
 constexpr CreatorFn kChartGenPpgCreator = nullptr;
 constexpr CreatorFn kPointBreakPpgCreator = nullptr;
+constexpr CreatorFn kDataWndPgCreator = nullptr;
 #endif
 
 // The script-driven classes take their whole state from the calling host (a document, chart
@@ -44,7 +47,7 @@ const ClassEntry kClasses[] = {
     {&CLSID_CmnDateRangeDlg, L"CmnDateRangeDlg", L"CmnDateRangeDlg Class", true, kScriptSafe, kNone, nullptr},
     {&CLSID_ChartDrawPg, L"ChartDrawPg", L"ChartDrawPg Class", false, kNone, kNone, kChartDrawPgCreator},
     {&CLSID_ChartGenPpg, L"ChartGenPpg", L"ChartGenPpg Class", false, kNone, kNone, kChartGenPpgCreator},
-    {&CLSID_DataWndPg, L"DataWndPg", L"DataWndPg Class", false, kNone, kNone, nullptr},
+    {&CLSID_DataWndPg, L"DataWndPg", L"DataWndPg Class", false, kNone, kNone, kDataWndPgCreator},
     {&CLSID_GenXAxisPpg, L"GenXAxisPpg", L"GenXAxisPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_GenYAxisPpg, L"GenYAxisPpg", L"GenYAxisPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_LinePpgX, L"LinePpgX", L"LinePpgX Class", false, kNone, kNone, nullptr},

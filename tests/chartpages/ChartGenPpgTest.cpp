@@ -11,6 +11,7 @@
 
 #include "ChartPageHostFake.h"
 #include "chartpages/ChartGenPpg.h"
+#include "chartpages/Transparency.h"
 
 namespace {
 
@@ -34,7 +35,7 @@ struct Conversion {
   int percent;
 };
 class AlphaToPercent : public testing::TestWithParam<Conversion> {};
-TEST_P(AlphaToPercent, Truncates) { EXPECT_EQ(ChartGenAlphaToPercent(GetParam().alpha), GetParam().percent); }
+TEST_P(AlphaToPercent, Truncates) { EXPECT_EQ(orv::TransparencyPercent(GetParam().alpha), GetParam().percent); }
 INSTANTIATE_TEST_SUITE_P(Display, AlphaToPercent,
                          testing::Values(Conversion{0, 100}, Conversion{255, 0}, Conversion{127, 50},
                                          Conversion{128, 49}, Conversion{254, 0}, Conversion{1, 99},
@@ -45,7 +46,7 @@ struct Saving {
   std::uint32_t alpha;
 };
 class PercentToAlpha : public testing::TestWithParam<Saving> {};
-TEST_P(PercentToAlpha, Truncates) { EXPECT_EQ(ChartGenPercentToAlpha(GetParam().percent), GetParam().alpha); }
+TEST_P(PercentToAlpha, Truncates) { EXPECT_EQ(orv::TransparencyAlpha(GetParam().percent), GetParam().alpha); }
 INSTANTIATE_TEST_SUITE_P(Save, PercentToAlpha,
                          testing::Values(Saving{0, 255}, Saving{100, 0}, Saving{50, 127}, Saving{1, 252},
                                          Saving{99, 2}, Saving{150, 0}, Saving{4294967295u, 0}));
