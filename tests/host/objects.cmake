@@ -54,3 +54,9 @@ add_test(NAME host_e2e_chartdraw
   COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/chartdraw.sh $<TARGET_FILE:orvhost> $<TARGET_FILE:OrvChartDlgs>
     ${CMAKE_CURRENT_LIST_DIR}/e2e)
 set_tests_properties(host_e2e_chartdraw PROPERTIES LABELS wine TIMEOUT 300)
+
+# The chart general, point break and data window pages in orvhost's frame, the same way.
+add_test(NAME host_e2e_chartgen
+  COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/chartgen.sh $<TARGET_FILE:orvhost> $<TARGET_FILE:OrvChartDlgs>
+    ${CMAKE_CURRENT_LIST_DIR}/e2e)
+set_tests_properties(host_e2e_chartgen PROPERTIES LABELS wine TIMEOUT 300)
