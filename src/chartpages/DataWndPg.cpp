@@ -34,6 +34,7 @@ bool CDataWndPg::OnInitPage() {
   hasWindow_ = true;
   loading_ = true;
   c.UpDownSetRange(IDC_DW_TRANSP_SPIN, 0, 100);
+  c.ListViewSetExtendedStyle(IDC_DW_SHOW, orv::kLvsExCheckBoxes | orv::kLvsExFullRowSelect);
   c.ListViewInsertColumn(IDC_DW_SHOW, 0, kShowColumn, 180);
   c.ListViewDeleteAllItems(IDC_DW_SHOW);
   for (int row = 0; row < kShowRowCount; ++row) c.ListViewInsertItem(IDC_DW_SHOW, row, kShowRows[row]);

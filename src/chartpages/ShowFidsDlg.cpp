@@ -13,7 +13,8 @@ CShowFidsDlg::CShowFidsDlg(std::int32_t current, std::string currentText, std::u
 
 bool CShowFidsDlg::OnInitPage() {
   orv::Controls& c = Ctl();
-  c.ListViewInsertColumn(IDC_SF_FIELDS, 0, "Description", 300);
+  c.ListViewSetExtendedStyle(IDC_SF_FIELDS, orv::kLvsExFullRowSelect);
+  c.ListViewInsertColumn(IDC_SF_FIELDS, 0, "Description", 250);
   std::string group = kDefaultGroup;
   std::unique_ptr<orv::SettingsStore> own;
   orv::SettingsStore* store = store_;

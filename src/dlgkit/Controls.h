@@ -32,6 +32,10 @@ inline constexpr unsigned kBeepSimple = 0xFFFFFFFFu;
 // The page-apply message a page sends its sheet: wParam the page's dialog id.
 inline constexpr unsigned kWmLsPageApply = 1425;
 
+// List view extended styles (LVS_EX_*).
+inline constexpr std::uint32_t kLvsExCheckBoxes = 0x4;
+inline constexpr std::uint32_t kLvsExFullRowSelect = 0x20;
+
 class Page;
 
 class Controls {
@@ -104,6 +108,8 @@ class Controls {
   virtual bool ListViewSetItemText(int id, int item, int subItem, std::string_view text) = 0;
   virtual bool ListViewGetCheckState(int id, int item) = 0;
   virtual bool ListViewSetCheckState(int id, int item, bool checked) = 0;
+  // LVM_SETEXTENDEDLISTVIEWSTYLE with every bit as the mask: check boxes, full-row selection.
+  virtual bool ListViewSetExtendedStyle(int id, std::uint32_t style) { return false; }
   virtual int ListViewGetSelectedItem(int id) = 0;        // first selected, or -1
   virtual bool ListViewSelectItem(int id, int item) = 0;  // -1 clears the selection
 

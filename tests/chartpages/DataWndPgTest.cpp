@@ -72,6 +72,7 @@ TEST(DataWndPgOpening, FillsTheListAndCombos) {
   ASSERT_EQ(p.controls.ListViewGetItemCount(IDC_DW_SHOW), 7);
   for (int i = 0; i < 7; ++i) EXPECT_EQ(p.controls.ListViewGetItemText(IDC_DW_SHOW, i, 0), rows[i]);
   EXPECT_EQ(p.controls.Control(IDC_DW_SHOW).columns, std::vector<std::string>{"Display Item"});
+  EXPECT_EQ(p.controls.Control(IDC_DW_SHOW).listViewExStyle, orv::kLvsExCheckBoxes | orv::kLvsExFullRowSelect);
   const std::vector<std::string> formats = {"One field per line", "All fields on one line"};
   const std::vector<std::string> orders = {"La, H, L, O, NC", "O, H, L, La, NC", "La, H, L", "H, L, La",
                                            "La, NC", "La", "None"};

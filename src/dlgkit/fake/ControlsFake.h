@@ -75,6 +75,7 @@ struct FakeControl {
   int curSel = -1;
   std::vector<std::string> columns;  // list views
   std::vector<FakeListViewRow> rows;
+  std::uint32_t listViewExStyle = 0;  // list views: LVS_EX_*
   int lower = 0, upper = 100, pos = 0;  // up-downs
   std::optional<DateTime> date;         // date pickers
 };
@@ -207,6 +208,7 @@ class FakeControls final : public Controls {
   void SheetChanged() override;
   void SheetUnchanged() override;
   std::intptr_t SendPageApply(int dialogId) override;
+  bool ListViewSetExtendedStyle(int id, std::uint32_t style) override;
   std::intptr_t RunModalDialog(Page& dialog) override { return dialogHandler_ ? dialogHandler_(dialog) : -1; }
   void SetWizardButtons(unsigned flags) override {
     if (wizardHandler_) wizardHandler_(flags);

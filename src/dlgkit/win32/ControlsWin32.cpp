@@ -447,8 +447,15 @@ std::intptr_t Win32Controls::SendPageApply(int dialogId) {
                                          reinterpret_cast<LPARAM>(Dlg(dialog_))));
 }
 
+bool Win32Controls::ListViewSetExtendedStyle(int id, std::uint32_t style) {
+  HWND list = ::GetDlgItem(Dlg(dialog_), id);
+  if (!list) return false;
+  ListView_SetExtendedListViewStyle(list, style);
+  return true;
+}
+
 std::intptr_t Win32Controls::RunModalDialog(Page& dialog) {
-  return RunPageDialog(dialog, KitModule(), dialog.DialogId(), static_cast<HWND>(dialog_));
+  return RunPageDialog(dialog, KitModule(), dialog.DialogId(), Dlg(dialog_));
 }
 
 void Win32Controls::SetWizardButtons(unsigned flags) {
