@@ -49,6 +49,6 @@ class CChartGenPpg final : public orv::ChartPageBase<CChartGenPpg> {
 
   orv::ChartPageInfo info_;
   std::int32_t printHeader_ = 0;
-  bool hasSpin_ = false;     // the up-down exists: the page's window is there
-  std::string closedText_;   // the edit's text when the window went, for an Apply without it
+  bool hasSpin_ = false;    // the up-down exists: the page's window is there
+  std::string closedText_;  // the edit's text when the window went, for an Apply without it
 };

@@ -63,8 +63,7 @@ void CDataWndPg::Load(XmlNode root) {
 
 void CDataWndPg::ShowValues() {
   orv::Controls& c = Ctl();
-  for (int row = 0; row < kShowRowCount; ++row)
-    c.ListViewSetCheckState(IDC_DW_SHOW, row, (visibleFields_ >> row) & 1u);
+  for (int row = 0; row < kShowRowCount; ++row) c.ListViewSetCheckState(IDC_DW_SHOW, row, (visibleFields_ >> row) & 1u);
   Fill(c, IDC_DW_FORMAT, kFormats, std::size(kFormats));
   c.ComboSetCurSel(IDC_DW_FORMAT, oneLine_);
   Fill(c, IDC_DW_ORDER, kOrders, std::size(kOrders));

@@ -17,12 +17,12 @@ class CDataWndPg final : public orv::ChartPageBase<CDataWndPg> {
  public:
   static constexpr const char* kRootName = "DataWndPg";
   // The rows of the "Show:" list; row i is bit i of the visible fields.
-  static constexpr const char* kShowRows[] = {"Symbols in Parameters Lists", "Date", "Symbol Charts",
-                                              "Function Charts", "Line Studies", "Data Option Codes",
-                                              "Custom Field"};
+  static constexpr const char* kShowRows[] = {
+      "Symbols in Parameters Lists", "Date",        "Symbol Charts", "Function Charts", "Line Studies",
+      "Data Option Codes",           "Custom Field"};
   static constexpr const char* kFormats[] = {"One field per line", "All fields on one line"};
-  static constexpr const char* kOrders[] = {"La, H, L, O, NC", "O, H, L, La, NC", "La, H, L", "H, L, La",
-                                            "La, NC", "La", "None"};
+  static constexpr const char* kOrders[] = {
+      "La, H, L, O, NC", "O, H, L, La, NC", "La, H, L", "H, L, La", "La, NC", "La", "None"};
   static constexpr const char* kShowColumn = "Display Item";
 
   // What Reset puts back (the inactive flag, the transparency and the font stay).

@@ -39,7 +39,8 @@ bool CPointBreakPpg::OnPropertiesRead() {
   filling_ = true;
   c.UpDownSetRange(IDC_PB_POINTS_SPIN, 2, 20);
   c.ComboResetContent(IDC_PB_SOURCE);
-  for (int row = 0; row < static_cast<int>(std::size(kSources)); ++row) c.ComboAddString(IDC_PB_SOURCE, kSources[row], row);
+  for (int row = 0; row < static_cast<int>(std::size(kSources)); ++row)
+    c.ComboAddString(IDC_PB_SOURCE, kSources[row], row);
   return true;
 }
 

@@ -38,8 +38,8 @@ class AlphaToPercent : public testing::TestWithParam<Conversion> {};
 TEST_P(AlphaToPercent, Truncates) { EXPECT_EQ(orv::TransparencyPercent(GetParam().alpha), GetParam().percent); }
 INSTANTIATE_TEST_SUITE_P(Display, AlphaToPercent,
                          testing::Values(Conversion{0, 100}, Conversion{255, 0}, Conversion{127, 50},
-                                         Conversion{128, 49}, Conversion{254, 0}, Conversion{1, 99},
-                                         Conversion{256, 0}, Conversion{4294967295.0, 0}));
+                                         Conversion{128, 49}, Conversion{254, 0}, Conversion{1, 99}, Conversion{256, 0},
+                                         Conversion{4294967295.0, 0}));
 
 struct Saving {
   unsigned percent;
@@ -48,8 +48,8 @@ struct Saving {
 class PercentToAlpha : public testing::TestWithParam<Saving> {};
 TEST_P(PercentToAlpha, Truncates) { EXPECT_EQ(orv::TransparencyAlpha(GetParam().percent), GetParam().alpha); }
 INSTANTIATE_TEST_SUITE_P(Save, PercentToAlpha,
-                         testing::Values(Saving{0, 255}, Saving{100, 0}, Saving{50, 127}, Saving{1, 252},
-                                         Saving{99, 2}, Saving{150, 0}, Saving{4294967295u, 0}));
+                         testing::Values(Saving{0, 255}, Saving{100, 0}, Saving{50, 127}, Saving{1, 252}, Saving{99, 2},
+                                         Saving{150, 0}, Saving{4294967295u, 0}));
 
 struct ShowCase {
   const char* name;
@@ -75,16 +75,15 @@ TEST_P(ChartGenPpgShows, TheHostsValues) {
 
 INSTANTIATE_TEST_SUITE_P(
     Loading, ChartGenPpgShows,
-    testing::Values(
-        ShowCase{"Opaque", "<CurWndTransp>255</CurWndTransp><ShowPrintHdr>1</ShowPrintHdr>", 1, "0", 0, 1},
-        ShowCase{"Clear", "<CurWndTransp>0</CurWndTransp><ShowPrintHdr>0</ShowPrintHdr>", 1, "100", 100, 0},
-        // 2 is kept, and a two-state check box shows it as checked.
-        ShowCase{"AbsentAlphaIs127", "<ShowPrintHdr>2</ShowPrintHdr>", 1, "50", 50, 1},
-        ShowCase{"AboveOpaqueClamps", "<CurWndTransp>300</CurWndTransp>", 1, "0", 0, 0},
-        ShowCase{"HeaderOutside0To2IsReset", "<CurWndTransp>200</CurWndTransp><ShowPrintHdr>3</ShowPrintHdr>", 1,
-                 "21", 21, 0},
-        ShowCase{"NothingFoundLeavesTheEditEmpty", "<CurWndTransp>0</CurWndTransp><ShowPrintHdr>1</ShowPrintHdr>",
-                 0, "", 0, 0}),
+    testing::Values(ShowCase{"Opaque", "<CurWndTransp>255</CurWndTransp><ShowPrintHdr>1</ShowPrintHdr>", 1, "0", 0, 1},
+                    ShowCase{"Clear", "<CurWndTransp>0</CurWndTransp><ShowPrintHdr>0</ShowPrintHdr>", 1, "100", 100, 0},
+                    // 2 is kept, and a two-state check box shows it as checked.
+                    ShowCase{"AbsentAlphaIs127", "<ShowPrintHdr>2</ShowPrintHdr>", 1, "50", 50, 1},
+                    ShowCase{"AboveOpaqueClamps", "<CurWndTransp>300</CurWndTransp>", 1, "0", 0, 0},
+                    ShowCase{"HeaderOutside0To2IsReset",
+                             "<CurWndTransp>200</CurWndTransp><ShowPrintHdr>3</ShowPrintHdr>", 1, "21", 21, 0},
+                    ShowCase{"NothingFoundLeavesTheEditEmpty",
+                             "<CurWndTransp>0</CurWndTransp><ShowPrintHdr>1</ShowPrintHdr>", 0, "", 0, 0}),
     [](const testing::TestParamInfo<ShowCase>& info) { return std::string(info.param.name); });
 
 // "ChartGenPpg" is looked for from the page's own root, which is found first: values the host
@@ -97,8 +96,7 @@ TEST(ChartGenPpgOpening, ReadsItsOwnRoot) {
 // Showing the transparency makes the page dirty (1); the end of the opening makes it clean (4).
 TEST(ChartGenPpgOpening, OpensCleanAfterShowingTheTransparency) {
   Page shown("<CurWndTransp>10</CurWndTransp>");
-  EXPECT_EQ(shown.connection.statuses,
-            (std::vector<std::uint32_t>{orv::kPageStatusDirty, orv::kPageStatusClean}));
+  EXPECT_EQ(shown.connection.statuses, (std::vector<std::uint32_t>{orv::kPageStatusDirty, orv::kPageStatusClean}));
   Page empty("", true, 0);
   EXPECT_TRUE(empty.connection.statuses.empty());
 }

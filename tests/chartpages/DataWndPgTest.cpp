@@ -67,15 +67,16 @@ TEST(DataWndPgInfo, WhatTheFrameKnows) {
 
 TEST(DataWndPgOpening, FillsTheListAndCombos) {
   Page p(Doc());
-  const std::vector<std::string> rows = {"Symbols in Parameters Lists", "Date", "Symbol Charts", "Function Charts",
-                                         "Line Studies", "Data Option Codes", "Custom Field"};
+  const std::vector<std::string> rows = {
+      "Symbols in Parameters Lists", "Date",        "Symbol Charts", "Function Charts", "Line Studies",
+      "Data Option Codes",           "Custom Field"};
   ASSERT_EQ(p.controls.ListViewGetItemCount(IDC_DW_SHOW), 7);
   for (int i = 0; i < 7; ++i) EXPECT_EQ(p.controls.ListViewGetItemText(IDC_DW_SHOW, i, 0), rows[i]);
   EXPECT_EQ(p.controls.Control(IDC_DW_SHOW).columns, std::vector<std::string>{"Display Item"});
   EXPECT_EQ(p.controls.Control(IDC_DW_SHOW).listViewExStyle, orv::kLvsExCheckBoxes | orv::kLvsExFullRowSelect);
   const std::vector<std::string> formats = {"One field per line", "All fields on one line"};
-  const std::vector<std::string> orders = {"La, H, L, O, NC", "O, H, L, La, NC", "La, H, L", "H, L, La",
-                                           "La, NC", "La", "None"};
+  const std::vector<std::string> orders = {
+      "La, H, L, O, NC", "O, H, L, La, NC", "La, H, L", "H, L, La", "La, NC", "La", "None"};
   ASSERT_EQ(p.controls.ComboGetCount(IDC_DW_FORMAT), 2);
   for (int i = 0; i < 2; ++i) EXPECT_EQ(p.controls.ComboGetLBText(IDC_DW_FORMAT, i), formats[i]);
   ASSERT_EQ(p.controls.ComboGetCount(IDC_DW_ORDER), 7);
@@ -133,8 +134,8 @@ INSTANTIATE_TEST_SUITE_P(
                  false, "100", true},
         ShowCase{"InactiveDisablesTheFormat", "<DW_Inactives>1</DW_Inactives>", true, k95, 0, 0, "Description", true,
                  false, "50", false},
-        ShowCase{"HighBitsAreNoRows", "<DW_VisibleFields>4294967168</DW_VisibleFields><DW_InstId>5</DW_InstId>",
-                 true, std::vector<bool>(7, false), 0, 0, "Description", false, false, "50", true}),
+        ShowCase{"HighBitsAreNoRows", "<DW_VisibleFields>4294967168</DW_VisibleFields><DW_InstId>5</DW_InstId>", true,
+                 std::vector<bool>(7, false), 0, 0, "Description", false, false, "50", true}),
     [](const testing::TestParamInfo<ShowCase>& info) { return std::string(info.param.name); });
 
 struct ApplyCase {
@@ -183,22 +184,19 @@ INSTANTIATE_TEST_SUITE_P(
         ApplyCase{"Instrument", Doc(), [](Page& p) { p.controls.Click(IDC_DW_INST_SYMBOL); },
                   With([](Sent& s) { s.inst = 0; }).Xml()},
         // The percentage shown marks the page dirty; the alpha read is what goes back.
-        ApplyCase{"TransparencyTyped", Doc(), [](Page& p) { p.controls.TypeText(IDC_DW_TRANSP, "80"); },
-                  Sent().Xml()},
+        ApplyCase{"TransparencyTyped", Doc(), [](Page& p) { p.controls.TypeText(IDC_DW_TRANSP, "80"); }, Sent().Xml()},
         // Reset: the defaults of the list, combos, custom field, instrument and colour-font flag;
         // the transparency and the font stay.
-        ApplyCase{"Reset", Doc(), [](Page& p) { p.controls.Click(IDC_DW_RESET); },
-                  With([](Sent& s) {
-                    s.colorFont = 0;
-                    s.oneLine = 0;
-                    s.visible = 95;
-                    s.order = 0;
-                    s.fid = 79;
-                    s.desc = "Description";
-                    s.inst = 0;
-                  }).Xml()},
-        ApplyCase{"NoFontAtAll", "<DW_UserFid>5</DW_UserFid>",
-                  [](Page& p) { p.controls.Click(IDC_DW_INST_DESC); },
+        ApplyCase{"Reset", Doc(), [](Page& p) { p.controls.Click(IDC_DW_RESET); }, With([](Sent& s) {
+                                                                                     s.colorFont = 0;
+                                                                                     s.oneLine = 0;
+                                                                                     s.visible = 95;
+                                                                                     s.order = 0;
+                                                                                     s.fid = 79;
+                                                                                     s.desc = "Description";
+                                                                                     s.inst = 0;
+                                                                                   }).Xml()},
+        ApplyCase{"NoFontAtAll", "<DW_UserFid>5</DW_UserFid>", [](Page& p) { p.controls.Click(IDC_DW_INST_DESC); },
                   "<DataWndPg><DW_ColorFont>0</DW_ColorFont><DW_OneLine>0</DW_OneLine><DW_VisibleFields>95</"
                   "DW_VisibleFields><DW_FieldOrder>0</DW_FieldOrder><DW_UserFid>5</DW_UserFid><DW_FidDesc>"
                   "Description</DW_FidDesc><DW_InstId>1</DW_InstId><DW_Transparency>127</DW_Transparency>"
@@ -256,8 +254,8 @@ TEST(DataWndPgApply, KeepsWhatTheWindowShowedWhenItWent) {
 
 struct PickCase {
   const char* name;
-  int row;        // the row the user selects; -1 none
-  bool ok;        // OK, else Cancel
+  int row;  // the row the user selects; -1 none
+  bool ok;  // OK, else Cancel
   bool dirty;
   const char* shown;
   std::string sent;
@@ -302,9 +300,9 @@ TEST_P(DataWndPgPick, TakesTheFieldOnOk) {
 
 INSTANTIATE_TEST_SUITE_P(Picker, DataWndPgPick,
                          testing::Values(PickCase{"OkTakesTheRow", 1, true, true, "Bid", With([](Sent& s) {
-                                                    s.fid = 31;
-                                                    s.desc = "Bid";
-                                                  }).Xml()},
+                                                                                           s.fid = 31;
+                                                                                           s.desc = "Bid";
+                                                                                         }).Xml()},
                                          PickCase{"OkOnTheSameField", 0, true, true, "Net Change", Sent().Xml()},
                                          PickCase{"CancelLeavesIt", 1, false, false, "Net Change", ""}),
                          [](const testing::TestParamInfo<PickCase>& info) { return std::string(info.param.name); });

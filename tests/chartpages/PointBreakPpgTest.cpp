@@ -91,23 +91,22 @@ TEST_P(PointBreakPpgApply, SendsTheExactDocument) {
 
 INSTANTIATE_TEST_SUITE_P(
     LoadChangeApply, PointBreakPpgApply,
-    testing::Values(
-        ApplyCase{"TypedPoints", "<Line>1</Line><Points>5</Points>",
-                  [](Page& p) { p.controls.TypeText(IDC_PB_POINTS, "8"); }, Sent(1, 8)},
-        // The edit's exchange has no range: a typed 50 goes through.
-        ApplyCase{"TypedBeyondTheArrows", "<Line>1</Line><Points>5</Points>",
-                  [](Page& p) { p.controls.TypeText(IDC_PB_POINTS, "50"); }, Sent(1, 50)},
-        ApplyCase{"ChosenSource", "<Line>0</Line><Points>4</Points>",
-                  [](Page& p) { p.controls.SelectComboItem(IDC_PB_SOURCE, 3); }, Sent(3, 4)},
-        // Reset takes the points back to 3 and keeps the source the user chose.
-        ApplyCase{"ResetKeepsTheSource", "<Line>2</Line><Points>11</Points>",
-                  [](Page& p) {
-                    p.controls.SelectComboItem(IDC_PB_SOURCE, 1);
-                    p.controls.Click(IDC_PB_RESET);
-                  },
-                  Sent(1, 3)},
-        ApplyCase{"ResetAlone", "<Line>3</Line><Points>11</Points>", [](Page& p) { p.controls.Click(IDC_PB_RESET); },
-                  Sent(3, 3)}),
+    testing::Values(ApplyCase{"TypedPoints", "<Line>1</Line><Points>5</Points>",
+                              [](Page& p) { p.controls.TypeText(IDC_PB_POINTS, "8"); }, Sent(1, 8)},
+                    // The edit's exchange has no range: a typed 50 goes through.
+                    ApplyCase{"TypedBeyondTheArrows", "<Line>1</Line><Points>5</Points>",
+                              [](Page& p) { p.controls.TypeText(IDC_PB_POINTS, "50"); }, Sent(1, 50)},
+                    ApplyCase{"ChosenSource", "<Line>0</Line><Points>4</Points>",
+                              [](Page& p) { p.controls.SelectComboItem(IDC_PB_SOURCE, 3); }, Sent(3, 4)},
+                    // Reset takes the points back to 3 and keeps the source the user chose.
+                    ApplyCase{"ResetKeepsTheSource", "<Line>2</Line><Points>11</Points>",
+                              [](Page& p) {
+                                p.controls.SelectComboItem(IDC_PB_SOURCE, 1);
+                                p.controls.Click(IDC_PB_RESET);
+                              },
+                              Sent(1, 3)},
+                    ApplyCase{"ResetAlone", "<Line>3</Line><Points>11</Points>",
+                              [](Page& p) { p.controls.Click(IDC_PB_RESET); }, Sent(3, 3)}),
     [](const testing::TestParamInfo<ApplyCase>& info) { return std::string(info.param.name); });
 
 TEST(PointBreakPpgApply, ResetShowsThreePoints) {

@@ -49,7 +49,8 @@ struct Picker {
   }
   std::vector<std::string> Groups() {
     std::vector<std::string> groups;
-    for (int i = 0; i < controls.ListGetCount(IDC_SF_GROUPS); ++i) groups.push_back(controls.ListGetText(IDC_SF_GROUPS, i));
+    for (int i = 0; i < controls.ListGetCount(IDC_SF_GROUPS); ++i)
+      groups.push_back(controls.ListGetText(IDC_SF_GROUPS, i));
     return groups;
   }
   std::string Group() { return controls.ListGetText(IDC_SF_GROUPS, controls.ListGetCurSel(IDC_SF_GROUPS)); }
@@ -110,17 +111,18 @@ TEST_P(ShowFidsDlgFill, ListsTheGroupsFields) {
 
 INSTANTIATE_TEST_SUITE_P(
     Groups, ShowFidsDlgFill,
-    testing::Values(FillCase{"DefaultIsFrequentlyUsed", nullptr, {"Last", "Volume"}, "Frequently Used"},
-                    FillCase{"RegistryGroup", "Price", {"Last", "High"}, "Price"},
-                    FillCase{"AllEndsWithEmpty", "All", {"Last", "High", "Volume", "Open Interest", " <Empty>"}, "All"},
-                    FillCase{"UnknownGroupFallsBackToAll", "Bonds",
-                             {"Last", "High", "Volume", "Open Interest", " <Empty>"}, "All"},
-                    FillCase{"OnlyHiddenFieldsInTheGroup", "Internal", {}, "Internal"}),
+    testing::Values(
+        FillCase{"DefaultIsFrequentlyUsed", nullptr, {"Last", "Volume"}, "Frequently Used"},
+        FillCase{"RegistryGroup", "Price", {"Last", "High"}, "Price"},
+        FillCase{"AllEndsWithEmpty", "All", {"Last", "High", "Volume", "Open Interest", " <Empty>"}, "All"},
+        FillCase{"UnknownGroupFallsBackToAll", "Bonds", {"Last", "High", "Volume", "Open Interest", " <Empty>"}, "All"},
+        FillCase{"OnlyHiddenFieldsInTheGroup", "Internal", {}, "Internal"}),
     [](const testing::TestParamInfo<FillCase>& info) { return std::string(info.param.name); });
 
 TEST(ShowFidsDlgService, AsksPagesOf25UntilOneIsEmpty) {
   std::vector<std::string> many;
-  for (int i = 0; i < 30; ++i) many.push_back(MakeFieldRecord(i + 1, 0, "F" + std::to_string(i + 1), "Frequently Used"));
+  for (int i = 0; i < 30; ++i)
+    many.push_back(MakeFieldRecord(i + 1, 0, "F" + std::to_string(i + 1), "Frequently Used"));
   Picker p(many, nullptr);
   EXPECT_EQ(p.Rows().size(), 30u);
   EXPECT_EQ(p.host.FieldCalls(), (std::vector<orv::FakeHostServices::FieldCall>{

@@ -75,7 +75,7 @@ struct FakeControl {
   int curSel = -1;
   std::vector<std::string> columns;  // list views
   std::vector<FakeListViewRow> rows;
-  std::uint32_t listViewExStyle = 0;  // list views: LVS_EX_*
+  std::uint32_t listViewExStyle = 0;    // list views: LVS_EX_*
   int lower = 0, upper = 100, pos = 0;  // up-downs
   std::optional<DateTime> date;         // date pickers
 };
@@ -144,7 +144,9 @@ class FakeControls final : public Controls {
   void SetWizardButtonsHandler(std::function<void(unsigned flags)> handler) { wizardHandler_ = std::move(handler); }
   // RunModalDialog hands the dialog to this handler (a test that opens and drives it, e.g. on
   // template controls of its own) and gives its answer; without one it is -1.
-  void SetModalDialogHandler(std::function<std::intptr_t(Page& dialog)> handler) { dialogHandler_ = std::move(handler); }
+  void SetModalDialogHandler(std::function<std::intptr_t(Page& dialog)> handler) {
+    dialogHandler_ = std::move(handler);
+  }
   const std::vector<std::pair<std::string, int>>& HelpRequests() const { return helpRequests_; }
   // The font dialog: each request (the font and colour it started from) is recorded; it answers
   // with the next queued choice (OK), or as Cancel when none is queued.

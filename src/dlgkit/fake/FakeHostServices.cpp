@@ -112,8 +112,7 @@ class FakeHelp final : public HelpService {
 
 class FakeFields final : public FieldService {
  public:
-  FakeFields(FakeHostServices& owner, std::vector<std::string> records)
-      : owner_(owner), records_(std::move(records)) {}
+  FakeFields(FakeHostServices& owner, std::vector<std::string> records) : owner_(owner), records_(std::move(records)) {}
   void GetFields(const std::string& filter, std::int32_t kind, std::int32_t start, std::int32_t count,
                  std::string& records) override {
     if (kind != kFieldListKind || count != kFieldPageSize || start < 0) {
