@@ -10,6 +10,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ModuleTesting.h"
@@ -24,6 +25,13 @@ using Listing = std::set<std::wstring>;
 
 const wchar_t kChartPages[] = L"{938D688E-9268-4672-87AC-842DD8A62AA8}";
 const wchar_t kChartDrawPg[] = L"{6D73A8E6-1A90-438E-A317-B76226F7B7EA}";
+// The chart pages the DLL serves: name and class id.
+const std::pair<const wchar_t*, const wchar_t*> kServedPages[] = {
+    {L"ChartDrawPg", kChartDrawPg},
+    {L"ChartGenPpg", L"{337F885D-E536-4411-A829-B71E5A8BEDC0}"},
+    {L"DataWndPg", L"{4E497245-A3A8-4706-8E0E-5CF228E90F21}"},
+    {L"PointBreakPpg", L"{E6C132A9-3C0D-4F98-9F81-65A59C2E0790}"},
+};
 const wchar_t kAppId[] = L"{DA578EB6-B0B1-4578-9E6B-6F6529BB5929}";
 const wchar_t kTypeLib[] = L"{6A2CB4D9-8647-4339-8E26-82D3E724F0D1}";
 
@@ -103,12 +111,11 @@ Listing Under(const Listing& listing, const std::wstring& prefix) {
 }
 
 // The class registration of the served classes, letter for letter: ChartPages (programmable,
-// safe for scripting) and the chart draw page (made by a property frame only).
+// safe for scripting) and the chart pages (made by a property frame only).
 Listing ExpectedClassKeys(const std::wstring& dll) {
   const std::wstring c = L"Software\\Classes\\";
   const std::wstring k = c + L"CLSID\\" + kChartPages;
-  const std::wstring d = c + L"CLSID\\" + kChartDrawPg;
-  return {
+  Listing keys = {
       c + L"OrvChartDlgs.ChartPages",
       c + L"OrvChartDlgs.ChartPages|=ChartPages Class",
       c + L"OrvChartDlgs.ChartPages\\CLSID",
@@ -139,31 +146,39 @@ Listing ExpectedClassKeys(const std::wstring& dll) {
       k + L"\\Implemented Categories\\{7DD95802-9882-11CF-9FA9-00AA006C42C4}",
       c + L"AppID\\" + kAppId,
       c + L"AppID\\" + kAppId + L"|=OrvChartDlgs",
-      c + L"OrvChartDlgs.ChartDrawPg",
-      c + L"OrvChartDlgs.ChartDrawPg|=ChartDrawPg Class",
-      c + L"OrvChartDlgs.ChartDrawPg\\CLSID",
-      c + L"OrvChartDlgs.ChartDrawPg\\CLSID|=" + kChartDrawPg,
-      c + L"OrvChartDlgs.ChartDrawPg\\CurVer",
-      c + L"OrvChartDlgs.ChartDrawPg\\CurVer|=OrvChartDlgs.ChartDrawPg.1",
-      c + L"OrvChartDlgs.ChartDrawPg.1",
-      c + L"OrvChartDlgs.ChartDrawPg.1|=ChartDrawPg Class",
-      c + L"OrvChartDlgs.ChartDrawPg.1\\CLSID",
-      c + L"OrvChartDlgs.ChartDrawPg.1\\CLSID|=" + kChartDrawPg,
-      d,
-      d + L"|=ChartDrawPg Class",
-      d + L"|AppID=" + kAppId,
-      d + L"\\ProgID",
-      d + L"\\ProgID|=OrvChartDlgs.ChartDrawPg.1",
-      d + L"\\VersionIndependentProgID",
-      d + L"\\VersionIndependentProgID|=OrvChartDlgs.ChartDrawPg",
-      d + L"\\InprocServer32",
-      d + L"\\InprocServer32|=" + dll,
-      d + L"\\InprocServer32|ThreadingModel=Apartment",
-      d + L"\\TypeLib",
-      d + L"\\TypeLib|=" + kTypeLib,
-      d + L"\\Version",
-      d + L"\\Version|=1.0",
   };
+  for (const auto& [name, clsid] : kServedPages) {
+    const std::wstring d = c + L"CLSID\\" + clsid;
+    const std::wstring p = c + L"OrvChartDlgs." + name;
+    const std::wstring className = std::wstring(name) + L" Class";
+    keys.insert({
+        p,
+        p + L"|=" + className,
+        p + L"\\CLSID",
+        p + L"\\CLSID|=" + clsid,
+        p + L"\\CurVer",
+        p + L"\\CurVer|=OrvChartDlgs." + name + L".1",
+        p + L".1",
+        p + L".1|=" + className,
+        p + L".1\\CLSID",
+        p + L".1\\CLSID|=" + clsid,
+        d,
+        d + L"|=" + className,
+        d + L"|AppID=" + kAppId,
+        d + L"\\ProgID",
+        d + L"\\ProgID|=OrvChartDlgs." + name + L".1",
+        d + L"\\VersionIndependentProgID",
+        d + L"\\VersionIndependentProgID|=OrvChartDlgs." + name,
+        d + L"\\InprocServer32",
+        d + L"\\InprocServer32|=" + dll,
+        d + L"\\InprocServer32|ThreadingModel=Apartment",
+        d + L"\\TypeLib",
+        d + L"\\TypeLib|=" + kTypeLib,
+        d + L"\\Version",
+        d + L"\\Version|=1.0",
+    });
+  }
+  return keys;
 }
 
 std::optional<DWORD> ReadInstallOptions() {
