@@ -159,8 +159,14 @@ int RunPage(const Options& options, const ComPtr<IXMLDOMDocument2>& document, st
     std::fprintf(stderr, "orvhost: cannot start the script's timer (error %lu)\n", GetLastError());
     return kExitComponentFailed;
   }
+  PopupCapture popup(options.boxScreenshot);
+  if (!options.boxScreenshot.empty() && !popup.Start()) {
+    std::fprintf(stderr, "orvhost: cannot start the box picture's timer (error %lu)\n", GetLastError());
+    return kExitComponentFailed;
+  }
   const int result = RunPageFrame(page.Page(), static_cast<IChartPageHost*>(host.get()), stdout, error);
   driver.Stop();
+  popup.Stop();
   if (result < 0) {
     std::fprintf(stderr, "orvhost: %s\n", error.c_str());
     return kExitComponentFailed;
@@ -169,6 +175,11 @@ int RunPage(const Options& options, const ComPtr<IXMLDOMDocument2>& document, st
   std::fflush(stdout);
   if (!driver.Error().empty()) {
     std::fprintf(stderr, "orvhost: script: %s\n", driver.Error().c_str());
+    return kExitBadScript;
+  }
+  if (!options.boxScreenshot.empty() && !popup.Written()) {
+    std::fprintf(stderr, "orvhost: %s\n",
+                 popup.Error().empty() ? "no window opened over the frame" : popup.Error().c_str());
     return kExitBadScript;
   }
   return result;

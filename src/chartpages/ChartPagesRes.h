@@ -119,3 +119,42 @@
 #define IDC_YA_AVG_BARS 2889
 
 // The general, data window and point break pages.
+// The chart general page.
+#define IDD_CHART_GEN_PPG 1307
+#define IDS_CHART_GEN_PPG_TITLE 1307
+#define IDC_CG_TOOLTIP_GROUP 3000
+#define IDC_CG_TRANSP_LABEL 3001
+#define IDC_CG_TRANSP 3002
+#define IDC_CG_TRANSP_SPIN 3003
+#define IDC_CG_PRINT_HEADER 3004
+// The point break page.
+#define IDD_POINT_BREAK_PPG 1308
+#define IDS_POINT_BREAK_PPG_TITLE 1308
+#define IDC_PB_POINTS_LABEL 3020
+#define IDC_PB_POINTS 3021
+#define IDC_PB_POINTS_SPIN 3022
+#define IDC_PB_SOURCE_LABEL 3023
+#define IDC_PB_SOURCE 3024
+#define IDC_PB_RESET 3025
+// The data window page and its field picker.
+#define IDD_DATA_WND_PG 1351
+#define IDS_DATA_WND_PG_TITLE 1351
+#define IDC_DW_SHOW 1400
+#define IDC_DW_FORMAT_LABEL 1401
+#define IDC_DW_FORMAT 1402
+#define IDC_DW_ORDER_LABEL 1403
+#define IDC_DW_ORDER 1404
+#define IDC_DW_CUSTOM_LABEL 1405
+#define IDC_DW_CUSTOM 1406
+#define IDC_DW_CHANGE 1407
+#define IDC_DW_RESET 1408
+#define IDC_DW_TRANSP_LABEL 1409
+#define IDC_DW_TRANSP 1410
+#define IDC_DW_TRANSP_SPIN 1411
+#define IDC_DW_INST_GROUP 1412
+#define IDC_DW_INST_SYMBOL 1413
+#define IDC_DW_INST_DESC 1414
+#define IDD_SHOW_FIDS_DLG 469
+#define IDC_SF_FIELDS 213
+#define IDC_SF_GROUPS 208
+#define IDC_SF_DESCRIPTION 9003

@@ -32,6 +32,12 @@ inline constexpr unsigned kBeepSimple = 0xFFFFFFFFu;
 // The page-apply message a page sends its sheet: wParam the page's dialog id.
 inline constexpr unsigned kWmLsPageApply = 1425;
 
+// List view extended styles (LVS_EX_*).
+inline constexpr std::uint32_t kLvsExCheckBoxes = 0x4;
+inline constexpr std::uint32_t kLvsExFullRowSelect = 0x20;
+
+class Page;
+
 class Controls {
  public:
   virtual ~Controls() = default;
@@ -102,6 +108,8 @@ class Controls {
   virtual bool ListViewSetItemText(int id, int item, int subItem, std::string_view text) = 0;
   virtual bool ListViewGetCheckState(int id, int item) = 0;
   virtual bool ListViewSetCheckState(int id, int item, bool checked) = 0;
+  // LVM_SETEXTENDEDLISTVIEWSTYLE with every bit as the mask: check boxes, full-row selection.
+  virtual bool ListViewSetExtendedStyle(int id, std::uint32_t style) { return false; }
   virtual int ListViewGetSelectedItem(int id) = 0;        // first selected, or -1
   virtual bool ListViewSelectItem(int id, int item) = 0;  // -1 clears the selection
 
@@ -135,6 +143,12 @@ class Controls {
   virtual std::intptr_t SendPageApply(int dialogId) = 0;
   // PSM_SETWIZBUTTONS (posted): PSWIZB_BACK 1, PSWIZB_NEXT 2, PSWIZB_FINISH 4.
   virtual void SetWizardButtons(unsigned flags) = 0;
+
+  // --- a dialog of the kit over this one ---
+  // Runs `dialog`, a plain modal dialog made from its template (its DialogId()), owned by this
+  // dialog's window, until it ends: kIdOkButton, kIdCancelButton, -1 when it can't be shown.
+  // Where no platform dialog can be made (natively) it isn't shown: -1.
+  virtual std::intptr_t RunModalDialog(Page& dialog) { return -1; }
 };
 
 // The one reading of an integer field, shared by every Controls implementation so that a

@@ -25,6 +25,8 @@ std::unique_ptr<SettingsService> OneOpenHostServices::CreateSettingsService() {
 
 std::unique_ptr<HelpService> OneOpenHostServices::CreateHelpService() { return host_.CreateHelpService(); }
 
+std::unique_ptr<FieldService> OneOpenHostServices::CreateFieldService() { return host_.CreateFieldService(); }
+
 std::int32_t ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags) {
   auto help = CurrentHostServices().CreateHelpService();
   if (!help) return -1;

@@ -48,12 +48,29 @@ class HelpService {
   virtual void ShowHelp(const std::string& book, std::int32_t topicId, std::int32_t flags, std::int32_t& result) = 0;
 };
 
+// The host's field service: the data fields a chart can show, in pages of records of
+// kFieldRecordSize bytes. Asked for by (filter, kFieldListKind, start, kFieldPageSize); the answer
+// is the records of that page, fewer or none at the end. Their layout: FieldRecords.h.
+class FieldService {
+ public:
+  virtual ~FieldService() = default;
+  // Fills `records` with up to `count` records from `start` (its size a multiple of the record
+  // size). A failed call raises XmlComError.
+  virtual void GetFields(const std::string& filter, std::int32_t kind, std::int32_t start, std::int32_t count,
+                         std::string& records) = 0;
+};
+
+inline constexpr std::int32_t kFieldListKind = 7;
+inline constexpr std::int32_t kFieldPageSize = 25;
+
 class HostServices {
  public:
   virtual ~HostServices() = default;
   // Null when the service cannot be created.
   virtual std::unique_ptr<SettingsService> CreateSettingsService() = 0;
   virtual std::unique_ptr<HelpService> CreateHelpService() = 0;
+  // Null when the host offers no field service (the default).
+  virtual std::unique_ptr<FieldService> CreateFieldService() { return nullptr; }
 };
 
 // The platform's host: COM activation on Windows (win32/), no services natively (native/).
@@ -89,6 +106,7 @@ class OneOpenHostServices final : public HostServices {
 
   std::unique_ptr<SettingsService> CreateSettingsService() override;
   std::unique_ptr<HelpService> CreateHelpService() override;
+  std::unique_ptr<FieldService> CreateFieldService() override;
 
  private:
   HostServices& host_;

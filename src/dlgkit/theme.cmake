@@ -3,6 +3,7 @@ list(APPEND ORV_DLGKIT_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/OrvDialog.cpp
   ${CMAKE_CURRENT_LIST_DIR}/ThemedControls.cpp
   ${CMAKE_CURRENT_LIST_DIR}/HostServices.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/FieldRecords.cpp
   ${CMAKE_CURRENT_LIST_DIR}/HostServicesInProcess.cpp)
 list(APPEND ORV_DLGKIT_NATIVE_SOURCES
   ${CMAKE_CURRENT_LIST_DIR}/native/WindowOpsNative.cpp

@@ -7,6 +7,9 @@
 #include "chartpages/GenXAxisPpg.h"
 #include "chartpages/GenYAxisPpg.h"
 #include "chartpages/NumFmtPpgX.h"
+#include "chartpages/ChartGenPpg.h"
+#include "chartpages/DataWndPg.h"
+#include "chartpages/PointBreakPpg.h"
 #include "host/PropertyPage.h"
 #endif
 
@@ -23,13 +26,18 @@ constexpr CreatorFn kNumFmtPpgXCreator = &CreateChartPage<CNumFmtPpgX>;
 constexpr CreatorFn kGenXAxisPpgCreator = &CreateChartPage<CGenXAxisPpg>;
 constexpr CreatorFn kGenYAxisPpgCreator = &CreateChartPage<CGenYAxisPpg>;
 // The general, data window and point break pages.
-
+constexpr CreatorFn kChartGenPpgCreator = &CreateChartPage<CChartGenPpg>;
+constexpr CreatorFn kPointBreakPpgCreator = &CreateChartPage<CPointBreakPpg>;
+constexpr CreatorFn kDataWndPgCreator = &CreateChartPage<CDataWndPg>;
 #else
 constexpr CreatorFn kChartPagesCreator = nullptr;
 constexpr CreatorFn kChartDrawPgCreator = nullptr;
 constexpr CreatorFn kGenXAxisPpgCreator = nullptr;
 constexpr CreatorFn kGenYAxisPpgCreator = nullptr;
 constexpr CreatorFn kNumFmtPpgXCreator = nullptr;
+constexpr CreatorFn kChartGenPpgCreator = nullptr;
+constexpr CreatorFn kPointBreakPpgCreator = nullptr;
+constexpr CreatorFn kDataWndPgCreator = nullptr;
 #endif
 
 // The script-driven classes take their whole state from the calling host (a document, chart
@@ -46,13 +54,13 @@ const ClassEntry kClasses[] = {
     {&CLSID_ChartPages, L"ChartPages", L"ChartPages Class", true, kScriptSafe, kNone, kChartPagesCreator},
     {&CLSID_CmnDateRangeDlg, L"CmnDateRangeDlg", L"CmnDateRangeDlg Class", true, kScriptSafe, kNone, nullptr},
     {&CLSID_ChartDrawPg, L"ChartDrawPg", L"ChartDrawPg Class", false, kNone, kNone, kChartDrawPgCreator},
-    {&CLSID_ChartGenPpg, L"ChartGenPpg", L"ChartGenPpg Class", false, kNone, kNone, nullptr},
-    {&CLSID_DataWndPg, L"DataWndPg", L"DataWndPg Class", false, kNone, kNone, nullptr},
+    {&CLSID_ChartGenPpg, L"ChartGenPpg", L"ChartGenPpg Class", false, kNone, kNone, kChartGenPpgCreator},
+    {&CLSID_DataWndPg, L"DataWndPg", L"DataWndPg Class", false, kNone, kNone, kDataWndPgCreator},
     {&CLSID_GenXAxisPpg, L"GenXAxisPpg", L"GenXAxisPpg Class", false, kNone, kNone, kGenXAxisPpgCreator},
     {&CLSID_GenYAxisPpg, L"GenYAxisPpg", L"GenYAxisPpg Class", false, kNone, kNone, kGenYAxisPpgCreator},
     {&CLSID_LinePpgX, L"LinePpgX", L"LinePpgX Class", false, kNone, kNone, nullptr},
     {&CLSID_NumFmtPpgX, L"NumFmtPpgX", L"NumFmtPpgX Class", false, kNone, kNone, kNumFmtPpgXCreator},
-    {&CLSID_PointBreakPpg, L"PointBreakPpg", L"PointBreakPpg Class", false, kNone, kNone, nullptr},
+    {&CLSID_PointBreakPpg, L"PointBreakPpg", L"PointBreakPpg Class", false, kNone, kNone, kPointBreakPpgCreator},
     {&CLSID_TextGenPpg, L"TextGenPpg", L"TextGenPpg Class", false, kNone, kNone, nullptr},
     {&CLSID_XAxisPpgX, L"XAxisPpgX", L"XAxisPpgX Class", false, kNone, kNone, nullptr},
     {&CLSID_YAxisPpgX, L"YAxisPpgX", L"YAxisPpgX Class", false, kNone, kNone, nullptr},

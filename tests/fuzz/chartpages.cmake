@@ -11,4 +11,9 @@ orv_add_fuzzer(fuzz_xaxis_props ${CMAKE_CURRENT_LIST_DIR}/GenXAxisPropsFuzz.cpp 
 orv_add_fuzzer(fuzz_yaxis_props ${CMAKE_CURRENT_LIST_DIR}/GenYAxisPropsFuzz.cpp orv_chartpages RUNS 50000)
 orv_add_fuzzer(fuzz_price_parse ${CMAKE_CURRENT_LIST_DIR}/PriceParseFuzz.cpp orv_chartpages)
 
-# The general, data window and point break pages.
+# The general, data window and point break pages: each page's reader from any document, and the
+# records of the host's field service that the data window's field picker reads.
+orv_add_fuzzer(fuzz_chartgen_props ${CMAKE_CURRENT_LIST_DIR}/ChartGenPpgFuzz.cpp orv_chartpages RUNS 50000)
+orv_add_fuzzer(fuzz_pointbreak_props ${CMAKE_CURRENT_LIST_DIR}/PointBreakPpgFuzz.cpp orv_chartpages RUNS 50000)
+orv_add_fuzzer(fuzz_datawnd_props ${CMAKE_CURRENT_LIST_DIR}/DataWndPgFuzz.cpp orv_chartpages RUNS 50000)
+orv_add_fuzzer(fuzz_field_records ${CMAKE_CURRENT_LIST_DIR}/FieldRecordsFuzz.cpp orv_dlgkit RUNS 50000)

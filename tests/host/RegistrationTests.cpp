@@ -10,6 +10,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ModuleTesting.h"
@@ -27,6 +28,9 @@ const wchar_t kChartDrawPg[] = L"{6D73A8E6-1A90-438E-A317-B76226F7B7EA}";
 const wchar_t kNumFmtPpgX[] = L"{FEA090CF-4F6F-4D07-AD9B-18D39D07F784}";
 const wchar_t kGenXAxisPpg[] = L"{9F9E8A73-AFC6-4004-BC66-8359D19223AE}";
 const wchar_t kGenYAxisPpg[] = L"{97DEF558-6200-46BF-AD42-BF49C48272C3}";
+const wchar_t kChartGenPpg[] = L"{337F885D-E536-4411-A829-B71E5A8BEDC0}";
+const wchar_t kDataWndPg[] = L"{4E497245-A3A8-4706-8E0E-5CF228E90F21}";
+const wchar_t kPointBreakPpg[] = L"{E6C132A9-3C0D-4F98-9F81-65A59C2E0790}";
 const wchar_t kAppId[] = L"{DA578EB6-B0B1-4578-9E6B-6F6529BB5929}";
 const wchar_t kTypeLib[] = L"{6A2CB4D9-8647-4339-8E26-82D3E724F0D1}";
 
@@ -145,6 +149,9 @@ const std::pair<std::wstring, std::wstring> kServedPages[] = {
     {kNumFmtPpgX, L"NumFmtPpgX"},
     {kGenXAxisPpg, L"GenXAxisPpg"},
     {kGenYAxisPpg, L"GenYAxisPpg"},
+    {kChartGenPpg, L"ChartGenPpg"},
+    {kDataWndPg, L"DataWndPg"},
+    {kPointBreakPpg, L"PointBreakPpg"},
 };
 
 // The class registration of the served classes, letter for letter: ChartPages (programmable,

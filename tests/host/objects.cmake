@@ -67,3 +67,9 @@ add_test(NAME host_e2e_numfmt
   COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/numfmt.sh $<TARGET_FILE:orvhost> $<TARGET_FILE:OrvChartDlgs>
     ${CMAKE_CURRENT_LIST_DIR}/e2e)
 set_tests_properties(host_e2e_numfmt PROPERTIES LABELS wine TIMEOUT 300)
+
+# The chart general, point break and data window pages in orvhost's frame, the same way.
+add_test(NAME host_e2e_chartgen
+  COMMAND sh ${CMAKE_CURRENT_LIST_DIR}/e2e/chartgen.sh $<TARGET_FILE:orvhost> $<TARGET_FILE:OrvChartDlgs>
+    ${CMAKE_CURRENT_LIST_DIR}/e2e)
+set_tests_properties(host_e2e_chartgen PROPERTIES LABELS wine TIMEOUT 300)

@@ -489,6 +489,13 @@ int FakeControls::ListViewGetSelectedItem(int id) {
   return -1;
 }
 
+bool FakeControls::ListViewSetExtendedStyle(int id, std::uint32_t style) {
+  FakeControl* control = FindKind(id, FakeControlKind::ListView);
+  if (!control) return false;
+  control->listViewExStyle = style;
+  return true;
+}
+
 bool FakeControls::ListViewSelectItem(int id, int item) {
   FakeControl* control = FindKind(id, FakeControlKind::ListView);
   if (!control || (item != -1 && !ValidIndex(item, control->rows.size()))) return false;

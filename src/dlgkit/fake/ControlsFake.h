@@ -75,6 +75,7 @@ struct FakeControl {
   int curSel = -1;
   std::vector<std::string> columns;  // list views
   std::vector<FakeListViewRow> rows;
+  std::uint32_t listViewExStyle = 0;    // list views: LVS_EX_*
   int lower = 0, upper = 100, pos = 0;  // up-downs
   std::optional<DateTime> date;         // date pickers
 };
@@ -141,6 +142,11 @@ class FakeControls final : public Controls {
   void SetPageApplyHandler(std::function<std::intptr_t(int dialogId)> handler) { applyHandler_ = std::move(handler); }
   // Who hears PSM_SETWIZBUTTONS (the wizard: its buttons are the sheet's, not a page's).
   void SetWizardButtonsHandler(std::function<void(unsigned flags)> handler) { wizardHandler_ = std::move(handler); }
+  // RunModalDialog hands the dialog to this handler (a test that opens and drives it, e.g. on
+  // template controls of its own) and gives its answer; without one it is -1.
+  void SetModalDialogHandler(std::function<std::intptr_t(Page& dialog)> handler) {
+    dialogHandler_ = std::move(handler);
+  }
   const std::vector<std::pair<std::string, int>>& HelpRequests() const { return helpRequests_; }
   // The font dialog: each request (the font and colour it started from) is recorded; it answers
   // with the next queued choice (OK), or as Cancel when none is queued.
@@ -204,6 +210,8 @@ class FakeControls final : public Controls {
   void SheetChanged() override;
   void SheetUnchanged() override;
   std::intptr_t SendPageApply(int dialogId) override;
+  bool ListViewSetExtendedStyle(int id, std::uint32_t style) override;
+  std::intptr_t RunModalDialog(Page& dialog) override { return dialogHandler_ ? dialogHandler_(dialog) : -1; }
   void SetWizardButtons(unsigned flags) override {
     if (wizardHandler_) wizardHandler_(flags);
   }
@@ -238,6 +246,7 @@ class FakeControls final : public Controls {
   std::vector<int> pageApplySent_;
   std::function<std::intptr_t(int)> applyHandler_;
   std::function<void(unsigned)> wizardHandler_;
+  std::function<std::intptr_t(Page&)> dialogHandler_;
   std::vector<std::pair<std::string, int>> helpRequests_;
 };
 

@@ -1,5 +1,9 @@
 #include "dlgkit/fake/FakeHostServices.h"
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace orv {
 namespace {
 
@@ -106,7 +110,39 @@ class FakeHelp final : public HelpService {
   bool called_ = false;
 };
 
+class FakeFields final : public FieldService {
+ public:
+  FakeFields(FakeHostServices& owner, std::vector<std::string> records) : owner_(owner), records_(std::move(records)) {}
+  void GetFields(const std::string& filter, std::int32_t kind, std::int32_t start, std::int32_t count,
+                 std::string& records) override {
+    if (kind != kFieldListKind || count != kFieldPageSize || start < 0) {
+      owner_.Unexpected("GetFields(" + filter + ", " + std::to_string(kind) + ", " + std::to_string(start) + ", " +
+                        std::to_string(count) + ")");
+    }
+    owner_.RecordFieldCall({filter, start});
+    records.clear();
+    for (std::size_t i = static_cast<std::size_t>(start);
+         i < records_.size() && i < static_cast<std::size_t>(start) + static_cast<std::size_t>(count); ++i)
+      records += records_[i];
+  }
+
+ private:
+  FakeHostServices& owner_;
+  std::vector<std::string> records_;
+};
+
 }  // namespace
+
+void FakeHostServices::ExpectNoFieldService() { fields_.push_back({}); }
+void FakeHostServices::ExpectFields(std::vector<std::string> records) { fields_.push_back({true, std::move(records)}); }
+
+std::unique_ptr<FieldService> FakeHostServices::CreateFieldService() {
+  if (fields_.empty()) Unexpected("creation of the field service");
+  auto expectation = std::move(fields_.front());
+  fields_.pop_front();
+  if (!expectation.service) return nullptr;
+  return std::make_unique<FakeFields>(*this, std::move(expectation.records));
+}
 
 void FakeHostServices::ExpectNoSettingsService() {
   SettingsExpectation expectation;

@@ -43,11 +43,27 @@ class FakeHostServices final : public HostServices {
   void ExpectNoHelpService();
   void ExpectHelp(std::string book, std::int32_t topicId, std::int32_t flags, std::int32_t result);
 
-  bool AllExpectationsMet() const { return settings_.empty() && help_.empty() && pendingCalls_ == 0; }
+  // Field service creations, consumed in order. A service made by ExpectFields answers each
+  // GetFields(filter, 7, start, 25) with the records from `start` (none past the end), and
+  // records the filter and start of every call; any other kind or count is unexpected.
+  void ExpectNoFieldService();
+  void ExpectFields(std::vector<std::string> records);
+  struct FieldCall {
+    std::string filter;
+    std::int32_t start = 0;
+    friend bool operator==(const FieldCall&, const FieldCall&) = default;
+  };
+  const std::vector<FieldCall>& FieldCalls() const { return fieldCalls_; }
+  void RecordFieldCall(FieldCall call) { fieldCalls_.push_back(std::move(call)); }
+
+  bool AllExpectationsMet() const {
+    return settings_.empty() && help_.empty() && fields_.empty() && pendingCalls_ == 0;
+  }
   const std::vector<std::string>& UnexpectedCalls() const { return unexpected_; }
 
   std::unique_ptr<SettingsService> CreateSettingsService() override;
   std::unique_ptr<HelpService> CreateHelpService() override;
+  std::unique_ptr<FieldService> CreateFieldService() override;
 
   // Used by the services this fake hands out.
   [[noreturn]] void Unexpected(const std::string& what);
@@ -77,6 +93,12 @@ class FakeHostServices final : public HostServices {
  private:
   std::deque<SettingsExpectation> settings_;
   std::deque<HelpExpectation> help_;
+  struct FieldsExpectation {
+    bool service = false;
+    std::vector<std::string> records;
+  };
+  std::deque<FieldsExpectation> fields_;
+  std::vector<FieldCall> fieldCalls_;
   std::vector<std::string> unexpected_;
   int pendingCalls_ = 0;  // services created whose one expected call hasn't come yet
 };

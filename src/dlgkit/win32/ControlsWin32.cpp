@@ -10,7 +10,10 @@
 
 #include "dlgkit/HostServices.h"
 #include "dlgkit/MessageBox.h"
+#include "dlgkit/Page.h"
+#include "dlgkit/win32/DialogHost.h"
 #include "dlgkit/win32/FontOpsWin32.h"
+#include "dlgkit/win32/SheetRunnerWin32.h"
 
 namespace orv {
 
@@ -442,6 +445,17 @@ std::intptr_t Win32Controls::SendPageApply(int dialogId) {
   // lParam: the page's window, so the sheet can tell which tab spoke.
   return static_cast<std::intptr_t>(Send(::GetParent(Dlg(dialog_)), kWmLsPageApply, static_cast<WPARAM>(dialogId),
                                          reinterpret_cast<LPARAM>(Dlg(dialog_))));
+}
+
+bool Win32Controls::ListViewSetExtendedStyle(int id, std::uint32_t style) {
+  HWND list = ::GetDlgItem(Dlg(dialog_), id);
+  if (!list) return false;
+  ListView_SetExtendedListViewStyle(list, style);
+  return true;
+}
+
+std::intptr_t Win32Controls::RunModalDialog(Page& dialog) {
+  return RunPageDialog(dialog, KitModule(), dialog.DialogId(), Dlg(dialog_));
 }
 
 void Win32Controls::SetWizardButtons(unsigned flags) {

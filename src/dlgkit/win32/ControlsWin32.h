@@ -69,6 +69,8 @@ class Win32Controls final : public Controls {
   void SheetUnchanged() override;
   std::intptr_t SendPageApply(int dialogId) override;
   void SetWizardButtons(unsigned flags) override;
+  std::intptr_t RunModalDialog(Page& dialog) override;
+  bool ListViewSetExtendedStyle(int id, std::uint32_t style) override;
 
  private:
   WindowHandle dialog_;
