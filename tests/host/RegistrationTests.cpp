@@ -145,12 +145,8 @@ Listing PageClassKeys(const std::wstring& clsid, const std::wstring& name, const
 
 // The page classes the DLL serves.
 const std::pair<std::wstring, std::wstring> kServedPages[] = {
-    {kChartDrawPg, L"ChartDrawPg"},
-    {kNumFmtPpgX, L"NumFmtPpgX"},
-    {kGenXAxisPpg, L"GenXAxisPpg"},
-    {kGenYAxisPpg, L"GenYAxisPpg"},
-    {kChartGenPpg, L"ChartGenPpg"},
-    {kDataWndPg, L"DataWndPg"},
+    {kChartDrawPg, L"ChartDrawPg"},     {kNumFmtPpgX, L"NumFmtPpgX"},   {kGenXAxisPpg, L"GenXAxisPpg"},
+    {kGenYAxisPpg, L"GenYAxisPpg"},     {kChartGenPpg, L"ChartGenPpg"}, {kDataWndPg, L"DataWndPg"},
     {kPointBreakPpg, L"PointBreakPpg"},
 };
 
