@@ -143,6 +143,20 @@ std::string ErrorDescription() {
   return Utf8(std::wstring(description.get(), description.size()));
 }
 
+// Starts the script's timer (unless the script is empty) and the box picture's (when one is asked
+// for); false, with the reason on standard error, when either can't start.
+bool StartTimers(ScriptDriver& driver, PopupCapture& popup, const Options& options) {
+  if (!driver.Finished() && !driver.Start()) {
+    std::fprintf(stderr, "orvhost: cannot start the script's timer (error %lu)\n", GetLastError());
+    return false;
+  }
+  if (!options.boxScreenshot.empty() && !popup.Start()) {
+    std::fprintf(stderr, "orvhost: cannot start the box picture's timer (error %lu)\n", GetLastError());
+    return false;
+  }
+  return true;
+}
+
 int ExitCodeOf(long result) { return (result < 0 || result > 255) ? 255 : static_cast<int>(result); }
 
 // --page: the chart page in orvhost's own frame, with a chart object serving the document.
@@ -155,15 +169,8 @@ int RunPage(const Options& options, const ComPtr<IXMLDOMDocument2>& document, st
   }
   const ComPtr<PageHostObject> host = PageHostObject::Make(document, stdout);
   ScriptDriver driver(std::move(steps));
-  if (!driver.Finished() && !driver.Start()) {
-    std::fprintf(stderr, "orvhost: cannot start the script's timer (error %lu)\n", GetLastError());
-    return kExitComponentFailed;
-  }
   PopupCapture popup(options.boxScreenshot);
-  if (!options.boxScreenshot.empty() && !popup.Start()) {
-    std::fprintf(stderr, "orvhost: cannot start the box picture's timer (error %lu)\n", GetLastError());
-    return kExitComponentFailed;
-  }
+  if (!StartTimers(driver, popup, options)) return kExitComponentFailed;
   const int result = RunPageFrame(page.Page(), static_cast<IChartPageHost*>(host.get()), stdout, error);
   driver.Stop();
   popup.Stop();
@@ -264,16 +271,8 @@ int Run(const std::vector<std::wstring>& args) {
   }
 
   ScriptDriver driver(std::move(steps));
-  if (!driver.Finished() && !driver.Start()) {
-    std::fprintf(stderr, "orvhost: cannot start the script's timer (error %lu)\n", GetLastError());
-    return kExitComponentFailed;
-  }
-
   PopupCapture popup(options.boxScreenshot);
-  if (!options.boxScreenshot.empty() && !popup.Start()) {
-    std::fprintf(stderr, "orvhost: cannot start the box picture's timer (error %lu)\n", GetLastError());
-    return kExitComponentFailed;
-  }
+  if (!StartTimers(driver, popup, options)) return kExitComponentFailed;
 
   LONG result = 0;
   hr = options.noChartData ? component.Pages()->DoModal(document.get(), &result)
