@@ -22,14 +22,6 @@ std::string Sent(std::uint32_t alpha, int header) {
          std::to_string(header) + "</ShowPrintHdr></ChartGenPpg>";
 }
 
-TEST(ChartGenPpgInfo, WhatTheFrameKnows) {
-  CChartGenPpg page;
-  EXPECT_EQ(page.Info().dialogId, 1307);
-  EXPECT_STREQ(page.Info().rootName, "ChartGenPpg");
-  EXPECT_EQ(page.Info().scope, 1);
-  EXPECT_STREQ(page.Info().title, "General");
-}
-
 struct Conversion {
   double alpha;
   int percent;

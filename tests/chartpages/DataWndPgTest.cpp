@@ -57,14 +57,6 @@ std::vector<bool> Checks(Page& p) {
   return checks;
 }
 
-TEST(DataWndPgInfo, WhatTheFrameKnows) {
-  CDataWndPg page;
-  EXPECT_EQ(page.Info().dialogId, 1351);
-  EXPECT_STREQ(page.Info().rootName, "DataWndPg");
-  EXPECT_EQ(page.Info().scope, 0);
-  EXPECT_STREQ(page.Info().title, "General");
-}
-
 TEST(DataWndPgOpening, FillsTheListAndCombos) {
   Page p(Doc());
   const std::vector<std::string> rows = {

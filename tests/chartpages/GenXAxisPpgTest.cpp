@@ -35,15 +35,6 @@ std::string Sent(int margin, int scroll, int autoCategory, int date, int time) {
   return "<GenXAxisPpg>" + Doc(margin, scroll, autoCategory, date, time) + "</GenXAxisPpg>";
 }
 
-TEST(GenXAxisPpgInfo, WhatTheFrameKnows) {
-  CGenXAxisPpg page(kMayDay);
-  EXPECT_EQ(page.Info().dialogId, 1300);
-  EXPECT_STREQ(page.Info().rootName, "GenXAxisPpg");
-  EXPECT_EQ(page.Info().scope, 0);
-  EXPECT_STREQ(page.Info().title, "General");
-  EXPECT_EQ(page.Info().titleId, IDS_GEN_XAXIS_PPG_TITLE);
-}
-
 TEST(GenXAxisPpgRows, DatesOfTodayAndFixedTimes) {
   XPage p(Doc(5, 0, 0, 16, 512));
   const std::vector<std::pair<int, std::string>> dates = {{16, "05/01/21"},  {32, "05-01-21"},  {48, "01-May-21"},

@@ -54,15 +54,6 @@ Fields With(Change change) {
   return f;
 }
 
-TEST(GenYAxisPpgInfo, WhatTheFrameKnows) {
-  CGenYAxisPpg page;
-  EXPECT_EQ(page.Info().dialogId, 1356);
-  EXPECT_STREQ(page.Info().rootName, "GenYAxisPpg");
-  EXPECT_EQ(page.Info().scope, 0);
-  EXPECT_STREQ(page.Info().title, "General");
-  EXPECT_EQ(page.Info().titleId, IDS_GEN_YAXIS_PPG_TITLE);
-}
-
 TEST(GenYAxisPpgShown, ValuesInThePriceFormatAndTheAverageBars) {
   YPage p(Doc(Fields{}));
   EXPECT_EQ(p.Text(IDC_YA_MAX), "150.25");

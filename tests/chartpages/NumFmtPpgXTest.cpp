@@ -445,12 +445,4 @@ TEST(NumFmtPage, KeepsTheChoiceWhenItsWindowCloses) {
   EXPECT_EQ(p.connection.sent, std::vector<std::string>{Sent(0, 13)});
 }
 
-TEST(NumFmtPage, SaysWhatTheFrameNeeds) {
-  CNumFmtPpgX page;
-  EXPECT_EQ(page.Info().dialogId, 1304);
-  EXPECT_STREQ(page.Info().rootName, "NumFmtPpgX");
-  EXPECT_EQ(page.Info().scope, 0);
-  EXPECT_STREQ(page.Info().title, "Number");
-}
-
 }  // namespace

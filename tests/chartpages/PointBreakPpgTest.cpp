@@ -20,14 +20,6 @@ std::string Sent(int line, int points) {
          "</Points></PointBreakPpg>";
 }
 
-TEST(PointBreakPpgInfo, WhatTheFrameKnows) {
-  CPointBreakPpg page;
-  EXPECT_EQ(page.Info().dialogId, 1308);
-  EXPECT_STREQ(page.Info().rootName, "PointBreakPpg");
-  EXPECT_EQ(page.Info().scope, 0);
-  EXPECT_STREQ(page.Info().title, "Point Break");
-}
-
 TEST(PointBreakPpgOpening, FillsTheSourcesAndTheArrowsRange) {
   Page p("<Line>2</Line><Points>7</Points>");
   const std::vector<std::string> rows = {"Close", "High", "Low", "Open"};
