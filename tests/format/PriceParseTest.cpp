@@ -62,13 +62,4 @@ INSTANTIATE_TEST_SUITE_P(
                     ParseCase{"-9223372036854775807", 0, orv::kPriceOverflow},
                     ParseCase{"1000000000000", 23, orv::kPriceOverflow}));
 
-TEST(PriceCodeScale, TheDenominatorColumn) {
-  const std::int64_t expected[] = {
-      1,   10, 100, 1000, 10000, 100000, 1000000, 10000000,  2,          4,        8,         16,         32,  64, 128,
-      256, 10, 100, 1000, 10000, 100000, 1000000, 100000000, 1000000000, 10000000, 100000000, 1000000000, 512, 1,  1};
-  for (std::int32_t code = 0; code < 30; ++code) EXPECT_EQ(orv::PriceCodeScale(code), expected[code]) << code;
-  EXPECT_EQ(orv::PriceCodeScale(-1), 1000000000);
-  EXPECT_EQ(orv::PriceCodeScale(30), 1000000000);
-}
-
 }  // namespace
